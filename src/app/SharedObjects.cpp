@@ -1,0 +1,64 @@
+#include "app/SharedObjects.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "foundation/Identity.h"
+
+namespace lumo {
+namespace {
+
+SharedObjects* installed = nullptr;
+
+}  // namespace
+
+SharedObjects::SharedObjects(Platform& platform) : m_platform(platform) { installed = this; }
+
+SharedObjects::~SharedObjects() {
+    finishDeviceTraffic();  // a task under way still uses the objects
+    installed = nullptr;
+}
+
+void SharedObjects::stopDeviceTraffic() {
+    if (m_ioQueue) m_ioQueue->stop();
+}
+
+SharedObjects& SharedObjects::current() {
+    if (!installed) {
+        std::fputs("The shared objects were asked for before the entry point made them.\n", stderr);
+        std::abort();
+    }
+    return *installed;
+}
+
+void SharedObjects::finishDeviceTraffic() {
+    if (m_ioQueue) m_ioQueue->finish();
+}
+
+VexaProtocol& SharedObjects::vexaProtocol() {
+    if (!m_vexaProtocol) {
+        m_ioQueue = m_platform.makeIoQueue(kIoQueueLabel);
+        const IoQueue io{*m_ioQueue};
+        m_hidManager = m_platform.makeHidManager(io);
+        m_vexaProtocol = std::make_unique<VexaProtocol>(
+            m_platform.mainQueue(), io, *m_hidManager, [this]() -> PerKeyColors& { return keyboardModel(); },
+            [this](std::string_view line) { m_platform.print(line); });
+    }
+    return *m_vexaProtocol;
+}
+
+UIState& SharedObjects::uiState() {
+    if (!m_uiState) m_uiState = std::make_unique<UIState>();
+    return *m_uiState;
+}
+
+KeyboardModel& SharedObjects::keyboardModel() {
+    if (!m_keyboardModel) m_keyboardModel = std::make_unique<KeyboardModel>(vexaProtocol());
+    return *m_keyboardModel;
+}
+
+VexaProtocol& VexaProtocol::shared() { return SharedObjects::current().vexaProtocol(); }
+UIState& UIState::shared() { return SharedObjects::current().uiState(); }
+KeyboardModel& KeyboardModel::shared() { return SharedObjects::current().keyboardModel(); }
+
+}  // namespace lumo

@@ -1,0 +1,45 @@
+// The objects that live as long as the process, made on first use from one platform.
+#pragma once
+
+#include <memory>
+
+#include "app/UIState.h"
+#include "device/VexaProtocol.h"
+#include "keyboard/KeyboardModel.h"
+#include "platform/Platform.h"
+
+namespace lumo {
+
+/// Main thread. The entry point installs one over the native platform and never releases it; a test installs a
+/// fresh one over fakes and drops it at its end. The platform outlives it.
+class SharedObjects final {
+public:
+    explicit SharedObjects(Platform& platform);
+    ~SharedObjects();
+    SharedObjects(const SharedObjects&) = delete;
+    SharedObjects& operator=(const SharedObjects&) = delete;
+
+    /// The installed one. Asking for it while there is none ends the process.
+    static SharedObjects& current();
+
+    [[nodiscard]] VexaProtocol& vexaProtocol();
+    [[nodiscard]] UIState& uiState();
+    [[nodiscard]] KeyboardModel& keyboardModel();
+
+    /// For quitting: the report under way is the last one. Returns at once, also when the keyboard hangs.
+    void stopDeviceTraffic();
+
+    /// Waits for the report under way as well. A program that quits must not: its keyboard may hang.
+    void finishDeviceTraffic();
+
+private:
+    Platform& m_platform;
+    // In the order of their dependence: what stands below uses what stands above, and goes first.
+    std::unique_ptr<BlockingExecutor> m_ioQueue;
+    std::unique_ptr<HidManager> m_hidManager;
+    std::unique_ptr<VexaProtocol> m_vexaProtocol;
+    std::unique_ptr<UIState> m_uiState;
+    std::unique_ptr<KeyboardModel> m_keyboardModel;
+};
+
+}  // namespace lumo

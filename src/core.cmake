@@ -1,0 +1,20 @@
+add_library(lumo_core STATIC
+    app/SharedObjects.cpp
+    device/Exchange.cpp
+    device/LightingCommands.cpp
+    device/LightingReports.cpp
+    device/PerKeyCommands.cpp
+    device/PerKeyReports.cpp
+    device/Report.cpp
+    device/VexaProtocol.cpp
+    foundation/Color.cpp
+    foundation/Observable.cpp
+    foundation/SerialQueue.cpp
+    foundation/Uuid.cpp
+    keyboard/KeyboardLayout.cpp
+    keyboard/KeyboardModel.cpp
+    keyboard/LightingActions.cpp
+    macro/MacroItem.cpp
+)
+target_include_directories(lumo_core PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+target_link_libraries(lumo_core PUBLIC Threads::Threads PRIVATE lumo_options)

@@ -1,0 +1,84 @@
+// The program's only door to the keyboard: finds it, shakes hands, and carries every command to it.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "device/Exchange.h"
+#include "device/HeldDevice.h"
+#include "device/LightingModes.h"
+#include "device/PerKeyColors.h"
+#include "foundation/Color.h"
+#include "foundation/Observable.h"
+#include "foundation/RunLoop.h"
+#include "platform/Hid.h"
+
+namespace lumo {
+
+/// Main thread, but for `performHandshake`. Commands return at once; their exchanges run one after the other on the
+/// I/O queue, and their outcome comes back as `statusMessage`. Both queues and the manager outlive this object, and
+/// neither queue may run its tasks once it is gone.
+class VexaProtocol final : public ObservableObject {
+public:
+    static constexpr std::uint16_t wiredVID = 0x258A;
+    static constexpr std::uint16_t wiredPID = 0x010C;
+    static constexpr std::uint16_t wirelessVID = 0x3554;
+    static constexpr std::uint16_t wirelessPID = 0xFA09;
+    /// The firmware has room for a password that no command of ours sends; none is known, so it is zeros.
+    static constexpr std::array<std::uint8_t, 6> handshakePassword{};
+    static constexpr const auto& lightingModes = kLightingModes;
+
+    using Print = std::function<void(std::string_view)>;
+
+    /// The one instance of the running program.
+    static VexaProtocol& shared();
+
+    /// Opens the manager and adopts the interfaces already present. `perKeyColors` is asked for the keyboard model
+    /// at the first command that needs it; `print` takes console lines on any thread.
+    VexaProtocol(MainQueue main, IoQueue io, HidManager& manager, std::function<PerKeyColors&()> perKeyColors,
+                 Print print);
+
+    Published<bool> isConnected{*this, false};  // a qualifying interface is held
+    Published<std::string> connectionType{*this, "Simulated / Disconnected"};
+    Published<bool> isAuthenticated{*this, false};  // the handshake on the held interface succeeded
+    Published<std::int64_t> activeModeId{*this, 4};
+    SharedPublished<std::int64_t> speed{*this, 2};
+    SharedPublished<std::int64_t> brightness{*this, 4};
+    Published<ColorBytes> primaryColor{*this, kDefaultColorBytes};
+    Published<std::string> statusMessage{*this, "Ready"};
+
+    /// I/O queue. True without a device, and when the keyboard answers the query with at least 8 bytes that name it.
+    [[nodiscard]] bool performHandshake();
+
+    /// Puts the keyboard into an effect. Absent values stay as published. Speed and brightness are levels, sent as
+    /// given; outside 0 to 255 they end the process once a keyboard is to receive them. The per-key effects upload
+    /// the keys' own colours instead.
+    void setLightingMode(std::int64_t modeId, std::optional<std::int64_t> speedLevel = std::nullopt,
+                         std::optional<std::int64_t> brightnessLevel = std::nullopt,
+                         std::optional<ColorBytes> color = std::nullopt);
+
+    void triggerBurstMode(ColorBytes color, std::int64_t speedLevel = 3, std::int64_t brightnessLevel = 4);
+
+    /// Uploads colours by LED number and switches to the effect that shows them.
+    void setPerKeyRGB(LedColors colors);
+
+private:
+    void deviceMatched(const std::shared_ptr<HidDevice>& device);
+    void deviceRemoved(const std::shared_ptr<HidDevice>& device);
+    void checkConnectedDevices();
+    void postStatus(std::string text);
+
+    MainQueue m_main;
+    IoQueue m_io;
+    HidManager& m_manager;
+    std::function<PerKeyColors&()> m_perKeyColors;
+    Print m_print;
+    HeldDevice m_device;
+};
+
+}  // namespace lumo

@@ -1,0 +1,46 @@
+#include "foundation/Color.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace lumo {
+namespace {
+
+constexpr Color kConversionFailed{0.34, 0.03, 0.83, 1.0};
+
+std::uint8_t toByte(double component) { return static_cast<std::uint8_t>(std::clamp(component * 255.0, 0.0, 255.0)); }
+
+bool isConvertible(const Color& color) {
+    return !std::isnan(color.red) && !std::isnan(color.green) && !std::isnan(color.blue);
+}
+
+}  // namespace
+
+Color Color::fromHsb(double hue, double saturation, double brightness) {
+    const double sector = (hue - std::floor(hue)) * 6.0;
+    const double fraction = sector - std::floor(sector);
+    const double low = brightness * (1.0 - saturation);
+    const double falling = brightness * (1.0 - saturation * fraction);
+    const double rising = brightness * (1.0 - saturation * (1.0 - fraction));
+    switch (static_cast<int>(sector)) {
+        case 0:
+            return {brightness, rising, low};
+        case 1:
+            return {falling, brightness, low};
+        case 2:
+            return {low, brightness, rising};
+        case 3:
+            return {low, falling, brightness};
+        case 4:
+            return {rising, low, brightness};
+        default:
+            return {brightness, low, falling};
+    }
+}
+
+ColorBytes toBytes(const std::optional<Color>& color) {
+    const Color& known = color && isConvertible(*color) ? *color : kConversionFailed;
+    return {toByte(known.red), toByte(known.green), toByte(known.blue)};
+}
+
+}  // namespace lumo
