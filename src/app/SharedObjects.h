@@ -22,6 +22,7 @@ public:
     /// The installed one. Asking for it while there is none ends the process.
     static SharedObjects& current();
 
+    [[nodiscard]] MainQueue mainQueue() { return m_platform.mainQueue(); }
     [[nodiscard]] VexaProtocol& vexaProtocol();
     [[nodiscard]] UIState& uiState();
     [[nodiscard]] KeyboardModel& keyboardModel();

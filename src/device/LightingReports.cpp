@@ -5,9 +5,6 @@
 namespace lumo {
 namespace {
 
-constexpr std::uint8_t kMarker1 = 0x5A;
-constexpr std::uint8_t kMarker2 = 0xA5;
-
 struct ColorBlock {
     using Command = Field<1>;
     using Length = Field<6, 3>;

@@ -5,9 +5,6 @@
 namespace lumo {
 namespace {
 
-constexpr std::uint8_t kMarker1 = 0x5A;
-constexpr std::uint8_t kMarker2 = 0xA5;
-
 struct BankReport {
     static constexpr std::size_t kFirstColor = 8;
     static constexpr std::int64_t kLastOffset = 497;

@@ -12,6 +12,9 @@ namespace lumo {
 /// Every report is this long on the wire, report id byte included (docs/protocol.md, Framing).
 inline constexpr std::size_t kReportSize = 520;
 inline constexpr std::uint8_t kReportId = 0x06;
+/// The two bytes that close a block, in this order.
+inline constexpr std::uint8_t kMarker1 = 0x5A;
+inline constexpr std::uint8_t kMarker2 = 0xA5;
 using Report = std::array<std::uint8_t, kReportSize>;
 
 /// Ends the process with a line on the console: only a bug in the caller can hand out such a value.
