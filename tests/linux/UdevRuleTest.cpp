@@ -1,0 +1,66 @@
+#include "platform/linux/UdevRule.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <set>
+#include <string>
+
+namespace lumo {
+namespace {
+
+using Texts = std::set<std::string>;
+
+std::string installedFile() {
+    std::ifstream file(LUMO_RULE_FILE);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string upper(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::toupper(c); });
+    return text;
+}
+
+/// "VENDOR:PRODUCT" of every match of a pattern with these two groups.
+Texts idsIn(const std::string& text, const std::regex& pattern) {
+    Texts ids;
+    for (std::sregex_iterator at(text.begin(), text.end(), pattern); at != std::sregex_iterator(); ++at)
+        ids.insert(upper((*at)[1].str() + ":" + (*at)[2].str()));
+    return ids;
+}
+
+Texts conditionsOf(const std::string& line) {
+    const std::regex comma(", *");
+    return {std::sregex_token_iterator(line.begin(), line.end(), comma, -1), {}};
+}
+
+TEST(UdevRule, IsOneLine) { EXPECT_EQ(kUdevRule.find('\n'), std::string_view::npos); }
+
+TEST(UdevRule, LiesInAFileThatComesBeforeTheRuleThatGrantsAccess) {
+    const std::string_view name = kUdevRuleFile.substr(kUdevRuleFile.rfind('/') + 1);
+    EXPECT_LT(name, "73");
+}
+
+TEST(UdevRule, NamesTheKeyboardAndItsReceiverAsTheInstalledFileDoes) {
+    const Texts both{"258A:010C", "3554:FA09"};
+    EXPECT_EQ(idsIn(std::string(kUdevRule), std::regex("/0003:(\\w{4}):(\\w{4})\\.\\*")), both);
+    const std::regex inFile("\nENV\\{ID_VENDOR_ID\\}==\"(\\w{4})\", ENV\\{ID_MODEL_ID\\}==\"(\\w{4})\"");
+    EXPECT_EQ(idsIn(installedFile(), inFile), both);
+}
+
+TEST(UdevRule, GrantsAccessUnderTheConditionsOfTheInstalledFile) {
+    const std::string file = installedFile();
+    std::smatch grant;
+    ASSERT_TRUE(std::regex_search(file, grant, std::regex("\n([^#\n]*TAG\\+=\"uaccess\"[^\n]*)")));
+    Texts ours = conditionsOf(std::string(kUdevRule));
+    EXPECT_EQ(ours.erase("ACTION!=\"remove\"") + ours.erase("SUBSYSTEM==\"hidraw\""), 2U);  // lines of their own there
+    std::erase_if(ours, [](const std::string& condition) { return condition.starts_with("DEVPATH=="); });
+    EXPECT_EQ(ours, conditionsOf(grant[1]));
+}
+
+}  // namespace
+}  // namespace lumo
