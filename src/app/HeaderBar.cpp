@@ -1,0 +1,70 @@
+#include "app/HeaderBar.h"
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QPainter>
+
+#include "app/ConnectionDot.h"
+#include "controls/TextLine.h"
+#include "controls/Theme.h"
+
+namespace lumo {
+namespace {
+
+#ifdef Q_OS_MACOS
+constexpr int kMarkX = 84;  // right of the window buttons
+#else
+constexpr int kMarkX = theme::kWindowMargin;
+#endif
+constexpr int kRowHeight = HeaderBar::kHeight - 1;
+constexpr int kMarkY = (kRowHeight - BrandButton::kMarkSize) / 2;
+constexpr int kTitleX = kMarkX + BrandButton::kMarkSize + 8;
+constexpr int kDotToText = 8;
+constexpr int kLongestConnection = 220;
+
+void place(QWidget& line, int x, int width) {
+    const int height = line.sizeHint().height();
+    line.setGeometry(x, (kRowHeight - height) / 2, width, height);
+}
+
+}  // namespace
+
+HeaderBar::HeaderBar(QAction* quit, QWidget* parent)
+    : QWidget(parent),
+      m_brand(quit ? new BrandButton(*quit, this) : nullptr),
+      m_title(new TextLine(theme::kBrandStyle, theme::kText, this)),
+      m_dot(new ConnectionDot(this)),
+      m_connection(new TextLine(theme::kLinkStyle, theme::kTextLink, this)) {
+    m_title->setText("VEXA LUMO 65");
+    place(*m_title, kTitleX, m_title->sizeHint().width());
+    if (m_brand) m_brand->move(kMarkX - BrandButton::kRoom, kMarkY - BrandButton::kRoom);
+}
+
+void HeaderBar::setConnection(bool isConnected, std::string_view connectionType) {
+    m_dot->setConnected(isConnected);
+    if (m_connection->setText(connectionType)) placeConnection();
+}
+
+void HeaderBar::contextMenuEvent(QContextMenuEvent* event) {
+    if (!m_brand) return event->ignore();
+    m_brand->menu()->popup(event->globalPos());
+}
+
+void HeaderBar::placeConnection() {
+    const int textWidth = m_connection->widthWithin(kLongestConnection);
+    const int textX = width() - theme::kWindowMargin - textWidth;
+    place(*m_connection, textX, textWidth);
+    const int dotX = textX - kDotToText - ConnectionDot::kDiameter;
+    m_dot->move(dotX - ConnectionDot::kGlowReach, (kRowHeight - m_dot->height()) / 2);
+}
+
+void HeaderBar::resizeEvent(QResizeEvent*) { placeConnection(); }
+
+void HeaderBar::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(0, kRowHeight, width(), 1, theme::kHeaderLine);
+    if (m_brand) return;
+    m_mark.paint(painter, QRectF(kMarkX, kMarkY, BrandButton::kMarkSize, BrandButton::kMarkSize), theme::kAccent);
+}
+
+}  // namespace lumo

@@ -1,0 +1,32 @@
+#include "app/Program.h"
+
+#include <QApplication>
+#include <cstdlib>
+
+#include "app/AppDelegate.h"
+#include "app/SharedObjects.h"
+#include "controls/Theme.h"
+#include "foundation/Identity.h"
+
+namespace lumo {
+namespace {
+
+QString text(std::string_view latin) { return QLatin1String(latin.data(), static_cast<qsizetype>(latin.size())); }
+
+}  // namespace
+
+void runProgram(QApplication& application, Platform& platform) {
+    QApplication::setApplicationName(text(kProgramName));
+    QGuiApplication::setDesktopFileName(text(kIdentifier));
+    QGuiApplication::setQuitOnLastWindowClosed(AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+    theme::apply(application);
+    SharedObjects objects(platform);
+    AppDelegate delegate;
+    QMetaObject::invokeMethod(
+        &application, [&delegate] { delegate.applicationDidFinishLaunching(); }, Qt::QueuedConnection);
+    const int status = QApplication::exec();
+    delegate.applicationWillTerminate();
+    std::_Exit(status);
+}
+
+}  // namespace lumo

@@ -1,0 +1,32 @@
+#include "controls/Accessible.h"
+
+namespace lumo {
+namespace {
+
+QAccessibleInterface* describe(const QString&, QObject* object) {
+    auto* const source = dynamic_cast<AccessibleSource*>(object);
+    return source ? source->makeAccessible() : nullptr;
+}
+
+}  // namespace
+
+AccessibleSource::AccessibleSource() {
+    // With the first of our widgets: Qt keeps the first description it gets of each, the wrong one, too.
+    [[maybe_unused]] static const bool kIsInstalled = (QAccessible::installFactory(describe), true);
+}
+
+QStringList AccessibleButton::actionNames() const {
+    return QStringList{pressAction()} + QAccessibleWidget::actionNames();
+}
+
+void AccessibleButton::doAction(const QString& actionName) {
+    if (actionName == pressAction()) return static_cast<QAbstractButton*>(widget())->click();
+    QAccessibleWidget::doAction(actionName);
+}
+
+QStringList AccessibleButton::keyBindingsForAction(const QString& actionName) const {
+    if (actionName != pressAction()) return QAccessibleWidget::keyBindingsForAction(actionName);
+    return {QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText)};
+}
+
+}  // namespace lumo

@@ -1,0 +1,83 @@
+// The looks in one place: colours, type, radii and times, and how they reach Qt's own tool tips and menus.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+
+class QApplication;
+
+namespace lumo::theme {
+
+[[nodiscard]] constexpr QColor white(int percent) { return {255, 255, 255, (255 * percent + 50) / 100}; }
+
+// Surfaces
+inline constexpr QColor kWindow{0x1A, 0x1A, 0x1A};
+inline constexpr QColor kBar{0x17, 0x17, 0x17};
+inline constexpr QColor kCard{0x21, 0x21, 0x23};
+inline constexpr QColor kPopup{0x25, 0x25, 0x28};
+inline constexpr QColor kPopupControl{0x3A, 0x3A, 0x3E};
+inline constexpr QColor kRowHover = white(6);
+inline constexpr QColor kRowPressed = white(3);
+
+// Lines, 1 point wide
+inline constexpr QColor kCardLine = white(6);
+inline constexpr QColor kHeaderLine = white(8);
+inline constexpr QColor kStatusLine = white(7);
+inline constexpr QColor kPopupLine = white(10);
+inline constexpr QColor kSelectedLine{0x8B, 0x5C, 0xFF, 140};
+
+// Accent. The violet itself is too dark to be a line or a letter.
+inline constexpr QColor kAccent{87, 8, 212};
+inline constexpr QColor kAccentHover{0x68, 0x1C, 0xE6};
+inline constexpr QColor kAccentPressed{0x47, 0x06, 0xAE};
+inline constexpr QColor kAccentLine{0x8B, 0x5C, 0xFF};
+inline constexpr QColor kAccentSoft{122, 69, 240, 56};
+inline constexpr QColor kFocus{0xA8, 0x88, 0xFF};
+
+// Meaning
+inline constexpr QColor kOk{0x3D, 0xD6, 0x6E};
+
+// Text
+inline constexpr QColor kText{0xF2, 0xF2, 0xF4};
+inline constexpr QColor kTextRow{0xD8, 0xD8, 0xDC};
+inline constexpr QColor kTextRowPressed{0xC4, 0xC4, 0xC8};
+inline constexpr QColor kTextRowSelected{0xFF, 0xFF, 0xFF};
+inline constexpr QColor kTextSection = white(60);
+inline constexpr QColor kTextLink = white(75);
+inline constexpr QColor kTextStatus{0xD2, 0xD2, 0xD6};
+
+struct TextStyle {
+    int sizePx = 12;
+    int linePx = 16;
+    QFont::Weight weight = QFont::Normal;
+    double trackingEm = 0.0;
+};
+inline constexpr TextStyle kBrandStyle{13, 16, QFont::DemiBold, 0.09};
+inline constexpr TextStyle kSectionStyle{11, 16, QFont::DemiBold, 0.06};
+inline constexpr TextStyle kRowStyle{12, 16, QFont::Normal};
+inline constexpr TextStyle kRowSelectedStyle{12, 16, QFont::Medium};
+inline constexpr TextStyle kLinkStyle{12, 16, QFont::Normal};
+inline constexpr TextStyle kMenuStyle{12, 16, QFont::Medium};
+inline constexpr TextStyle kFineStyle{11, 14, QFont::Normal};
+
+/// The interface font in that style, unhinted so that letters stand where they belong and not on whole pixels.
+[[nodiscard]] QFont font(const TextStyle& style);
+
+inline constexpr double kCardRadius = 12.0;
+inline constexpr double kRowRadius = 7.0;
+inline constexpr double kSmallRadius = 6.0;
+
+inline constexpr int kWindowMargin = 16;
+inline constexpr int kCardGap = 12;
+inline constexpr int kCardPadding = 12;
+inline constexpr int kHeadingToContent = 8;
+
+inline constexpr int kHoverInMs = 90;
+inline constexpr int kHoverOutMs = 140;
+inline constexpr int kPressOutMs = 120;
+inline constexpr int kSelectMs = 160;
+
+/// Before the first window: keeps the desktop's own style out of ours. Main thread.
+void apply(QApplication& application);
+
+}  // namespace lumo::theme

@@ -1,0 +1,41 @@
+// The lighting page.
+#pragma once
+
+#include <QWidget>
+
+#include "foundation/CoalescedRefresh.h"
+#include "foundation/Observable.h"
+#include "keyboard/EffectCatalog.h"
+#include "keyboard/LightingActions.h"
+
+namespace lumo {
+
+class Card;
+class EffectList;
+
+/// Main thread. Shows what the three objects hold, which outlive it, and holds nothing of its own.
+class LightingControlView final : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr const auto& effectCatalog = kEffectCatalog;
+
+    LightingControlView(VexaProtocol& link, UIState& state, KeyboardModel& keyboard, MainQueue main, QWidget* parent);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void refresh();
+
+    VexaProtocol& m_link;
+    UIState& m_state;
+    LightingActions m_actions;
+    EffectList* m_effects;
+    Card* m_effectCard;
+    CoalescedRefresh m_refresh;
+    Subscription m_linkChanges;
+    Subscription m_stateChanges;
+};
+
+}  // namespace lumo

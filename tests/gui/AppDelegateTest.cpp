@@ -1,0 +1,111 @@
+#include "app/AppDelegate.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "app/MainView.h"
+#include "support/LinkFixture.h"
+
+namespace lumo {
+namespace {
+
+class Delegate : public test::LinkFixture {
+protected:
+    AppDelegate delegate;
+
+    QMainWindow& launch() {
+        delegate.applicationDidFinishLaunching();
+        return *delegate.window();
+    }
+};
+
+TEST_F(Delegate, HasNoWindowBeforeTheLaunch) { EXPECT_EQ(delegate.window(), nullptr); }
+
+TEST_F(Delegate, TheWindowHasTheStatedSizesTitleAndContent) {
+    const QMainWindow& window = launch();
+    EXPECT_EQ(window.size(), QSize(960, 760));
+    EXPECT_EQ(window.minimumSize(), QSize(900, 680));
+    EXPECT_EQ(window.windowTitle(), "Vexa Lumo 65");
+    EXPECT_NE(dynamic_cast<MainView*>(window.centralWidget()), nullptr);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.palette().color(QPalette::Window), QColor(0x1A, 0x1A, 0x1A));
+}
+
+TEST_F(Delegate, TheWindowCannotBeMadeSmallerThanItsMinimum) {
+    QMainWindow& window = launch();
+    window.resize(300, 200);
+    EXPECT_EQ(window.size(), QSize(900, 680));
+}
+
+TEST_F(Delegate, TheWindowStandsInTheMiddleOfTheScreenOrAtItsCornerWhenTheScreenIsTooSmall) {
+    const QRect place = launch().geometry();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_NEAR(place.left(), screen.left() + std::max(0, (screen.width() - 960) / 2), 1);
+    EXPECT_NEAR(place.top(), screen.top() + std::max(0, (screen.height() - 760) / 2), 1);
+}
+
+TEST_F(Delegate, LaunchingBringsTheDeviceLinkToLife) {
+    EXPECT_TRUE(platform.ioQueueLabel.empty());
+    launch();
+    EXPECT_EQ(platform.ioQueueLabel, "com.vexalumo.lumo65.ioqueue");
+    hid.plugKeyboard();
+    time.settle();
+    EXPECT_EQ(link().statusMessage.get(), "Connected & Authenticated");
+}
+
+TEST_F(Delegate, ClosingTheOnlyWindowQuitsTheApplication) {
+    EXPECT_TRUE(AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+    QGuiApplication::setQuitOnLastWindowClosed(AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+    QMainWindow& window = launch();
+    QMetaObject::invokeMethod(
+        qApp, [&] { window.close(); }, Qt::QueuedConnection);
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(Delegate, TheMenuHoldsOnlyTheQuitItemWithItsKeyEquivalent) {
+    const QMainWindow& window = launch();
+    const auto menus = window.findChildren<QMenu*>();
+    ASSERT_EQ(menus.size(), 1);
+    ASSERT_EQ(menus.front()->actions().size(), 1);
+    const QAction& quit = *menus.front()->actions().front();
+    EXPECT_EQ(&quit, &delegate.quitAction());
+    EXPECT_EQ(quit.text(), "Quit Vexa Lumo 65");
+    EXPECT_EQ(quit.shortcut(), QKeySequence("Ctrl+Q"));
+}
+
+TEST_F(Delegate, CtrlQQuitsTheApplication) {
+    QMainWindow& window = launch();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    window.activateWindow();
+    QMetaObject::invokeMethod(
+        qApp, [&] { QTest::keyClick(&window, Qt::Key_Q, Qt::ControlModifier); }, Qt::QueuedConnection);
+    EXPECT_EQ(QApplication::exec(), 0);
+}
+
+TEST_F(Delegate, QuittingTakesTheWindowAwayAndEndsTheTrafficWithoutWaiting) {
+    const QMainWindow& window = launch();
+    connect();
+    link().setLightingMode(5);
+    delegate.applicationWillTerminate();
+    EXPECT_FALSE(window.isVisible());
+    time.settle();
+    EXPECT_TRUE(commandsSent().empty());
+}
+
+TEST(DelegateWithoutLaunch, QuittingBeforeTheLaunchIsHarmless) {
+    test::TestPlatform platform;
+    SharedObjects objects(platform);
+    AppDelegate delegate;
+    delegate.applicationWillTerminate();
+    EXPECT_EQ(delegate.window(), nullptr);
+}
+
+}  // namespace
+}  // namespace lumo

@@ -1,0 +1,49 @@
+#include "gui/WindowFixture.h"
+
+#include <QTest>
+
+#include "app/HeaderBar.h"
+#include "app/StatusBar.h"
+#include "controls/TextLine.h"
+#include "keyboard/EffectRow.h"
+
+namespace lumo::test {
+
+void WindowFixture::show(QSize size) {
+    view = std::make_unique<MainView>(&quit);
+    view->resize(size);
+    view->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(view.get()));
+}
+
+void WindowFixture::showActive() {
+    show();
+    view->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
+}
+
+std::vector<EffectRow*> WindowFixture::rows() const {
+    const auto found = view->findChildren<EffectRow*>();
+    return {found.begin(), found.end()};
+}
+
+EffectRow& WindowFixture::row(const QString& name) const {
+    const auto all = rows();
+    const auto found = std::ranges::find_if(all, [&name](const EffectRow* row) { return row->text() == name; });
+    if (found == all.end()) throw std::invalid_argument("no row " + name.toStdString());
+    return **found;
+}
+
+std::vector<QString> WindowFixture::selectedNames() const {
+    std::vector<QString> names;
+    for (const EffectRow* const row : rows()) {
+        if (row->isSelected()) names.push_back(row->text());
+    }
+    return names;
+}
+
+TextLine& WindowFixture::statusLine() const { return *only<StatusBar>().findChild<TextLine*>(); }
+
+TextLine& WindowFixture::connectionLine() const { return *only<HeaderBar>().findChildren<TextLine*>().back(); }
+
+}  // namespace lumo::test

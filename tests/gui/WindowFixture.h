@@ -1,0 +1,52 @@
+// The window's content over the in-process keyboard, found by what it shows.
+#pragma once
+
+#include <QAction>
+#include <QString>
+#include <memory>
+#include <vector>
+
+#include "app/MainView.h"
+#include "support/LinkFixture.h"
+
+namespace lumo {
+
+class EffectRow;
+class TextLine;
+
+}  // namespace lumo
+
+namespace lumo::test {
+
+class WindowFixture : public LinkFixture {
+protected:
+    QAction quit{"Quit Vexa Lumo 65"};
+    std::unique_ptr<MainView> view;
+
+    /// Makes the view, shows it as a window and waits until it is on the screen.
+    void show(QSize size = {960, 760});
+
+    /// Also waits until it has the keyboard.
+    void showActive();
+
+    /// In the order of the list.
+    [[nodiscard]] std::vector<EffectRow*> rows() const;
+    [[nodiscard]] EffectRow& row(const QString& name) const;
+    [[nodiscard]] std::vector<QString> selectedNames() const;
+
+    template <typename Widget>
+    [[nodiscard]] Widget& only() const {
+        const auto found = view->findChildren<Widget*>();
+        EXPECT_EQ(found.size(), 1);
+        return *found.front();
+    }
+    [[nodiscard]] TextLine& statusLine() const;
+    [[nodiscard]] TextLine& connectionLine() const;
+
+    /// In the window's coordinates.
+    [[nodiscard]] QRect rectOf(const QWidget& widget) const {
+        return {widget.mapTo(view.get(), QPoint()), widget.size()};
+    }
+};
+
+}  // namespace lumo::test

@@ -1,0 +1,31 @@
+// This system with a keyboard inside the process.
+#pragma once
+
+#include "FirmwareModel.h"
+#include "ReportLog.h"
+#include "platform/qt/NativePlatform.h"
+
+namespace lumo::vk {
+
+/// Its one HID manager has the keyboard on its cable plugged in from the start.
+class DemoPlatform final : public Platform {
+public:
+    explicit DemoPlatform(ReportLog log) : m_log(std::move(log)) {}
+
+    MainQueue mainQueue() override { return m_native.mainQueue(); }
+    std::unique_ptr<BlockingExecutor> makeIoQueue(std::string_view label) override {
+        return m_native.makeIoQueue(label);
+    }
+    std::unique_ptr<HidManager> makeHidManager(IoQueue io) override;
+    void print(std::string_view line) override { m_native.print(line); }
+
+    /// Belongs to the I/O queue once the manager is made.
+    [[nodiscard]] FirmwareModel& firmware() { return m_firmware; }
+
+private:
+    NativePlatform m_native;
+    FirmwareModel m_firmware;
+    ReportLog m_log;
+};
+
+}  // namespace lumo::vk
