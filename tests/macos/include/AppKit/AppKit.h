@@ -1,0 +1,71 @@
+// AppKit: the application, its menu and its window.
+#pragma once
+
+#include <CoreGraphics/CGGeometry.h>
+#include <Foundation/Foundation.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@class NSMenu, NSView;
+
+@interface NSMenuItem : NSObject
+- (instancetype)initWithTitle:(NSString*)string
+                       action:(nullable SEL)selector
+                keyEquivalent:(NSString*)charCode __attribute__((objc_designated_initializer));
+@property(nullable, strong) NSMenu* submenu;
+@end
+
+@interface NSMenu : NSObject
+- (instancetype)initWithTitle:(NSString*)title __attribute__((objc_designated_initializer));
+- (void)addItem:(NSMenuItem*)newItem;
+@end
+
+typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
+    NSApplicationActivationPolicyRegular,
+    NSApplicationActivationPolicyAccessory,
+    NSApplicationActivationPolicyProhibited,
+};
+
+@interface NSApplication : NSObject
+@property(nullable, strong) NSMenu* mainMenu;
+- (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)activationPolicy API_AVAILABLE(macos(10.6));
+- (void)activateIgnoringOtherApps:(BOOL)flag;
+- (void)activate API_AVAILABLE(macos(14.0));
+- (void)terminate:(nullable id)sender;
+@end
+extern "C" NSApplication* _Null_unspecified NSApp;
+
+@interface NSColor : NSObject
++ (NSColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha API_AVAILABLE(macos(10.9));
+@end
+
+typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
+    NSWindowStyleMaskTitled = 1 << 0,
+    NSWindowStyleMaskClosable = 1 << 1,
+    NSWindowStyleMaskMiniaturizable = 1 << 2,
+    NSWindowStyleMaskResizable = 1 << 3,
+    NSWindowStyleMaskFullSizeContentView API_AVAILABLE(macos(10.10)) = 1 << 15,
+};
+
+typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) {
+    NSWindowTitleVisible = 0,
+    NSWindowTitleHidden = 1,
+};
+
+@interface NSWindow : NSObject
+@property(readonly) NSRect frame;
+- (void)setFrame:(NSRect)frameRect display:(BOOL)flag;
+- (NSRect)frameRectForContentRect:(NSRect)contentRect;
+- (NSRect)contentRectForFrameRect:(NSRect)frameRect;
+@property NSWindowStyleMask styleMask;
+@property NSWindowTitleVisibility titleVisibility API_AVAILABLE(macos(10.10));
+@property BOOL titlebarAppearsTransparent API_AVAILABLE(macos(10.10));
+@property(getter=isMovableByWindowBackground) BOOL movableByWindowBackground;
+@property(null_resettable, copy) NSColor* backgroundColor;
+@end
+
+@interface NSView : NSObject
+@property(nullable, readonly, unsafe_unretained) NSWindow* window;
+@end
+
+NS_ASSUME_NONNULL_END
