@@ -1,0 +1,27 @@
+# shellcheck shell=bash
+# A screen in memory for a machine without one. Sourced after say.sh; whoever starts it calls stopDisplay on exit.
+
+displayPid=
+
+# Starts one Xvfb on a number the server picks itself, and sets DISPLAY. The server writes the number once it
+# accepts connections, so reading it is all the waiting there is.
+startDisplay() {
+    local pipe number=
+    pipe=$(mktemp -u)
+    mkfifo "$pipe"
+    exec 9<>"$pipe"
+    rm "$pipe"
+    Xvfb -displayfd 9 -screen 0 1600x1200x24 -nolisten tcp >/dev/null 2>&1 &
+    displayPid=$!
+    read -r -t 60 number <&9 || die "the screen in memory (Xvfb) did not start."
+    exec 9>&-
+    unset WAYLAND_DISPLAY
+    export DISPLAY=":$number" QT_QPA_PLATFORM=xcb
+}
+
+stopDisplay() {
+    [ -n "$displayPid" ] || return 0
+    kill "$displayPid" 2>/dev/null || true
+    wait "$displayPid" 2>/dev/null || true
+    displayPid=
+}

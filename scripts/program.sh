@@ -1,0 +1,26 @@
+# shellcheck shell=bash
+# Builds and finds the programs that ./run starts. Sourced after say.sh, in the root of the repository, with
+# runDirectory set.
+: "${runDirectory:?}"
+
+# Warnings do not stop a user's build: a compiler newer than ours may have new ones.
+configureProgram() {
+    local prefix=()
+    [ ! -f "$runDirectory/build.ninja" ] || return 0
+    if isMac; then prefix=(-DCMAKE_PREFIX_PATH="$(brew --prefix qt)"); fi
+    cmake --preset release -B "$runDirectory" -DBUILD_TESTING=OFF -DLUMO_STRICT=OFF ${prefix[@]+"${prefix[@]}"}
+}
+
+buildProgram() {
+    say "Building $1"
+    configureProgram
+    cmake --build "$runDirectory" --target "$1" --parallel "$(jobCount)"
+}
+
+# On macOS a program may come as a bundle.
+programPath() {
+    local plain="$PWD/$runDirectory/bin/$1"
+    if [ -x "$plain.app/Contents/MacOS/$1" ]; then plain="$plain.app/Contents/MacOS/$1"; fi
+    [ -x "$plain" ] || die "the build left no program at $plain."
+    printf '%s\n' "$plain"
+}

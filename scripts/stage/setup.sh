@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# setup.sh quick|vm|full: installs what the stages of that mode need.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+for piece in say system packages install; do
+    # shellcheck source=/dev/null
+    . "scripts/$piece.sh"
+done
+
+packagesForMode() {
+    local versions
+    versions=$(compilerVersions) || die "./test knows Debian 12 and 13 and Ubuntu 24.04; this is $(systemName)."
+    packagesToBuild
+    packagesToTest "$versions"
+    packagesForPicture
+}
+
+# Without an emulator the real kernel is left out, and the whole run ends as incomplete; that is for its stage to say.
+installKernelPackages() {
+    # shellcheck disable=SC2046  # a list of names
+    (needDebs $(packagesForKernel)) || note "The emulated machine could not be installed."
+}
+
+if isMac; then
+    # shellcheck disable=SC2046  # lists of names
+    needFormulas $(formulasToBuild) $(formulasToTest)
+    exit 0
+fi
+packages=$(packagesForMode)
+# shellcheck disable=SC2086  # a list of names
+needDebs $packages
+if [ "$1" != quick ]; then installKernelPackages; fi
+note "Everything needed is installed."

@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# The machine's first process once the host's files are there: drivers, device manager, scenario, off.
+set -uo pipefail
+export PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin
+out=/mnt/lumo-out
+# shellcheck source=/dev/null
+. $out/job
+: "${lumoTests:?}" "${lumoBuild:?}" "${lumoKernel:?}" "${lumoFault=}"
+
+# Everything is in memory already; /tmp keeps the host's files, because the build may lie there.
+mountSystem() {
+    mount -t proc proc /proc
+    mount -t sysfs sysfs /sys
+    mkdir -p /dev/pts /dev/shm
+    mount -t devpts devpts /dev/pts
+    mount -t tmpfs -o mode=1777 tmpfs /dev/shm
+    mount -t tmpfs -o mode=755 tmpfs /run
+    ln -sfn /proc/self/fd /dev/fd
+}
+
+# The virtual host controller comes before the device manager, which would be busy with its root hubs otherwise.
+loadDrivers() {
+    local modules=/usr/lib/modules
+    mkdir -p "$modules"
+    mount --bind "$lumoKernel/lib/modules" "$modules"
+    modprobe -a hid hid-generic uhid usbhid evdev vhci-hcd
+}
+
+# Debian's whole set of rules would cost seconds for each plug under emulation. Ours comes with a stand-in for the
+# seat's session, which here is the user nobody: what is tagged for it becomes his.
+startDeviceManager() {
+    local rules=/run/lumo-rules
+    mkdir -p $rules /etc/udev/rules.d
+    cp /usr/lib/udev/rules.d/50-udev-default.rules /usr/lib/udev/rules.d/99-systemd.rules $rules
+    mount --bind $rules /usr/lib/udev/rules.d
+    mount -t tmpfs tmpfs /etc/udev/rules.d
+    cp "$lumoTests/../../packaging/70-vexa-lumo-65.rules" "$lumoTests/guest/73-seat.rules" /etc/udev/rules.d
+    /usr/lib/systemd/systemd-udevd --daemon
+    udevadm control --ping
+}
+
+runScenario() {
+    cd / || return
+    LUMO_BIN=$lumoBuild/bin LUMO_FAULT=$lumoFault LUMO_OUT=$out PYTHONUNBUFFERED=1 PYTHONDONTWRITEBYTECODE=1 \
+        LANG=C.UTF-8 /usr/bin/python3 "$lumoTests/guest/scenario.py" >>$out/report.txt 2>&1
+}
+
+mountSystem
+loadDrivers
+startDeviceManager
+runScenario
+echo $? >$out/status
+cp -r /run/lumo/. $out/ 2>/dev/null
+dmesg >$out/kernel.txt
+sync
+busybox poweroff -f

@@ -1,0 +1,72 @@
+"""The kernel's hidraw nodes: which belong to a keyboard, whose they are, who has them open."""
+
+import fcntl
+import glob
+import os
+import stat
+import subprocess
+
+TYPING = "typing"
+CONFIGURATION = "configuration"
+FEATURE_REPORT_ID_6 = b"\x85\x06"
+
+
+def nodes():
+    """{"typing": "/dev/hidrawN", "configuration": "/dev/hidrawM"}, as far as they are there."""
+    found = {}
+    for folder in glob.glob("/sys/class/hidraw/hidraw*"):
+        try:
+            with open(f"{folder}/device/report_descriptor", "rb") as descriptor:
+                kind = CONFIGURATION if FEATURE_REPORT_ID_6 in descriptor.read() else TYPING
+        except OSError:
+            continue  # unplugged in this very moment
+        found[kind] = "/dev/" + os.path.basename(folder)
+    return found
+
+
+def settled():
+    """The nodes once the device manager has dealt with them, else none."""
+    there = nodes()
+    return there if len(there) == 2 and all(is_known(node) for node in there.values()) else {}
+
+
+def is_known(node):
+    number = os.stat(node).st_rdev
+    return os.path.exists(f"/run/udev/data/c{os.major(number)}:{os.minor(number)}")
+
+
+def tags(node):
+    shown = subprocess.run(["udevadm", "info", "--query=property", "--property=CURRENT_TAGS", "--value", node],
+                           capture_output=True, text=True, check=True).stdout
+    return set(shown.strip().strip(":").split(":")) - {""}
+
+
+def owner_and_mode(node):
+    state = os.stat(node)
+    return state.st_uid, stat.S_IMODE(state.st_mode)
+
+
+def send_feature(node, report):
+    """Sends a feature report as any program could. Returns the error number, 0 for none."""
+    set_feature = 0xC0000000 | len(report) << 16 | ord("H") << 8 | 0x06
+    descriptor = os.open(node, os.O_RDWR | os.O_CLOEXEC)
+    try:
+        fcntl.ioctl(descriptor, set_feature, report)
+    except OSError as error:
+        return error.errno
+    finally:
+        os.close(descriptor)
+    return 0
+
+
+def opened_by(pid):
+    """The nodes that a process has open."""
+    opened = set()
+    for link in glob.glob(f"/proc/{pid}/fd/*"):
+        try:
+            target = os.readlink(link)
+        except OSError:
+            continue  # closed in this very moment
+        if target.startswith("/dev/hidraw"):
+            opened.add(target.removesuffix(" (deleted)"))
+    return opened

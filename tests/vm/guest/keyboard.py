@@ -1,0 +1,57 @@
+"""A keyboard of ours before the kernel: the program that is it, and the log it writes."""
+
+import json
+import subprocess
+
+
+class Keyboard:
+    """One program and one log. Started as root; unplugged at first."""
+
+    def __init__(self, program, log, *, vendor, product, name):
+        self.name = name
+        self._log = log
+        self._process = subprocess.Popen(
+            [program, "--log", log, "--vid", vendor, "--pid", product, "--name", name],
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, bufsize=1)
+
+    def tell(self, command):
+        """Sends one command line and returns the rest of its "ok" answer."""
+        self._process.stdin.write(command + "\n")
+        self._process.stdin.flush()
+        answer = self._process.stdout.readline().rstrip("\n")
+        if not answer.startswith("ok"):
+            raise RuntimeError(f"the keyboard answered {answer!r} to {command!r}")
+        return answer[len("ok"):].strip()
+
+    def plug(self):
+        self.tell("plug")
+
+    def unplug(self):
+        self.tell("unplug")
+
+    def registers(self):
+        """The parameter block and the colour block as the keyboard holds them."""
+        words = self.tell("registers").split()
+        return {words[0]: bytes.fromhex(words[1]), words[2]: bytes.fromhex(words[3])}
+
+    def transfers(self):
+        """Every transfer so far, oldest first; a line still being written is not among them."""
+        with open(self._log, encoding="utf-8") as log:
+            return [Transfer(line) for line in log.read().split("\n")[:-1]]
+
+    def quit(self):
+        self.tell("quit")
+        self._process.wait()
+
+
+class Transfer:
+    def __init__(self, line):
+        fields = json.loads(line)
+        self.us = fields["us"]
+        self.direction = fields["dir"]
+        self.accepted = fields["ok"]
+        self.length = fields["len"]
+        self.bytes = bytes.fromhex(fields["hex"])
+
+    def __repr__(self):
+        return f"{self.direction} {self.bytes[:8].hex(' ')}… ({self.length}{'' if self.accepted else ', refused'})"

@@ -1,0 +1,77 @@
+"""Everything that is shown on a real kernel, in order. Ends with 0 when every check passed."""
+
+import functools
+import os
+import sys
+
+import chapter_life
+import chapter_quitting
+import chapter_rights
+import desktop
+import hidraw
+from application import Application
+from checks import Checks
+from keyboard import Keyboard
+
+BIN = os.environ["LUMO_BIN"]
+LOGS = "/run/lumo"
+CABLE = {"vendor": "258A", "product": "010C"}
+RECEIVER = {"vendor": "3554", "product": "FA09"}
+
+
+def keyboards():
+    """All are started while we are root, and none is plugged. Their names are no other text of the application."""
+    usb, uhid = f"{BIN}/lumo-usbip-keyboard", f"{BIN}/lumo-uhid-keyboard"
+    programs = {"rights": (usb, CABLE), "rights-receiver": (usb, RECEIVER), "usb": (usb, CABLE),
+                "uhid": (uhid, RECEIVER), "hanging-set": (usb, RECEIVER), "hanging-get": (usb, CABLE)}
+    return {chapter: Keyboard(program, f"{LOGS}/{chapter}.jsonl", name=f"Lumo <{chapter}> ü", **ids)
+            for chapter, (program, ids) in programs.items()}
+
+
+def tell_as_root(checks, boards):
+    checks.chapter("Rights, by cable", lambda: chapter_rights.tell(checks, boards["rights"]))
+    checks.chapter("Rights, by receiver", lambda: chapter_rights.tell(checks, boards["rights-receiver"]))
+
+
+def tell_as_user(checks, boards):
+    def chapter(title, board, tell):
+        checks.chapter(title, lambda: with_application(checks, board, boards[board], tell))
+
+    chapter("USB keyboard", "usb", chapter_life.tell)
+    chapter("HID keyboard without a bus", "uhid", chapter_life.tell)
+    for board, hang in (("hanging-set", "set 8a hang"), ("hanging-get", "get 8a hang")):
+        chapter(f"Quitting while \"{hang}\"", board, functools.partial(chapter_quitting.tell, hang=hang))
+
+
+def with_application(checks, name, keyboard, tell):
+    from window import Window  # not before the desktop stands: the accessibility bus is looked up on import
+    checks.eventually("no keyboard is left from before", hidraw.nodes, lambda nodes: not nodes)
+    application = Application(f"{BIN}/vexa-lumo-65", f"{LOGS}/{name}.console.txt")
+    try:
+        tell(checks, Window(application), application, keyboard)
+    finally:
+        application.stop()
+        keyboard.unplug()
+
+
+def main():
+    os.makedirs(LOGS, mode=0o1777, exist_ok=True)
+    os.chmod(LOGS, 0o1777)
+    checks = Checks()
+    boards = keyboards()
+    if os.environ.get("LUMO_FAULT"):
+        for board in boards.values():
+            board.tell(f"fault {os.environ['LUMO_FAULT']}")
+    tell_as_root(checks, boards)
+    desktop.become_user()
+    desktop.start_screen()
+    desktop.start_session_bus()
+    tell_as_user(checks, boards)
+    for board in boards.values():
+        board.quit()
+    print(f"{checks.passed} passed, {checks.failed} failed", flush=True)
+    return 0 if checks.failed == 0 and checks.passed > 0 else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())
