@@ -21,14 +21,16 @@ using LedColors = std::map<std::int64_t, ColorBytes>;
 
 class PerKeyColors {
 public:
+    PerKeyColors() = default;
+    PerKeyColors(const PerKeyColors&) = delete;
+    PerKeyColors& operator=(const PerKeyColors&) = delete;
+    virtual ~PerKeyColors() = default;
+
     /// Main thread: uploads every key's colour through the link.
     virtual void syncToDevice() = 0;
 
     /// Any thread: all keys, in layout order, as they are now.
     [[nodiscard]] virtual std::vector<KeyColorPlace> colorPlaces() const = 0;
-
-protected:
-    ~PerKeyColors() = default;
 };
 
 }  // namespace lumo

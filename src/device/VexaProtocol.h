@@ -25,6 +25,7 @@ namespace lumo {
 /// neither queue may run its tasks once it is gone.
 class VexaProtocol final : public ObservableObject {
 public:
+    // NOLINTBEGIN(readability-identifier-naming): the names of the protocol's notes
     static constexpr std::uint16_t wiredVID = 0x258A;
     static constexpr std::uint16_t wiredPID = 0x010C;
     static constexpr std::uint16_t wirelessVID = 0x3554;
@@ -32,6 +33,7 @@ public:
     /// The firmware has room for a password that no command of ours sends; none is known, so it is zeros.
     static constexpr std::array<std::uint8_t, 6> handshakePassword{};
     static constexpr const auto& lightingModes = kLightingModes;
+    // NOLINTEND(readability-identifier-naming)
 
     using Print = std::function<void(std::string_view)>;
 

@@ -49,6 +49,7 @@ public:
     Published(ObservableObject& owner, T initial) : m_owner(owner), m_value(std::move(initial)) {}
     Published(const Published&) = delete;
     Published& operator=(const Published&) = delete;
+    ~Published() = default;
 
     const T& get() const { return m_value; }  // still the old value while observers run
 
@@ -69,6 +70,7 @@ public:
     SharedPublished(ObservableObject& owner, T initial) : m_owner(owner), m_value(std::move(initial)) {}
     SharedPublished(const SharedPublished&) = delete;
     SharedPublished& operator=(const SharedPublished&) = delete;
+    ~SharedPublished() = default;
 
     /// Main thread, the only writer: needs no lock.
     const T& get() const { return m_value; }

@@ -15,6 +15,8 @@ class SerialQueue final : public BlockingExecutor {
 public:
     /// `onThreadStart` runs first on the new thread: the place to name it and to set its quality of service.
     explicit SerialQueue(Task onThreadStart = {});
+    SerialQueue(const SerialQueue&) = delete;
+    SerialQueue& operator=(const SerialQueue&) = delete;
     ~SerialQueue() override;
 
     void post(Task task) override;

@@ -5,19 +5,19 @@
 namespace lumo {
 namespace {
 
+enum class Direction : std::uint8_t { down, up };
+using enum Direction;
+
 struct Step {
     std::uint8_t keyCode;
-    bool isDown;
+    Direction direction;
     std::int64_t delayMs;
 };
-
-constexpr bool down = true;
-constexpr bool up = false;
 
 std::vector<MacroEvent> events(std::initializer_list<Step> steps) {
     std::vector<MacroEvent> made;
     made.reserve(steps.size());
-    for (const Step& step : steps) made.push_back({Uuid::random(), step.keyCode, step.isDown, step.delayMs});
+    for (const Step& step : steps) made.push_back({Uuid::random(), step.keyCode, step.direction == down, step.delayMs});
     return made;
 }
 

@@ -1,7 +1,6 @@
 #include "FirmwareModel.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace lumo::vk {
 namespace {
@@ -34,7 +33,7 @@ std::uint8_t commandOf(std::span<const std::uint8_t> report) {
 }
 
 void storeBlock(Block& block, const Bytes& report) {
-    std::ranges::copy(report | std::views::take(block.size()), block.begin());
+    std::ranges::copy(std::span(report).first(std::min(report.size(), block.size())), block.begin());
     block[kCommandAt] = static_cast<std::uint8_t>(block[kCommandAt] | kReadBit);
 }
 
@@ -151,10 +150,9 @@ const Bytes& FirmwareModel::colourBank(std::uint8_t selector) const {
 }
 
 Bytes FirmwareModel::lastWrite(std::uint8_t command) const {
-    for (const Bytes& report : m_writes | std::views::reverse) {
-        if (commandOf(report) == command) return report;
-    }
-    return {};
+    const auto isThat = [command](const Bytes& report) { return commandOf(report) == command; };
+    const auto found = std::find_if(m_writes.rbegin(), m_writes.rend(), isThat);
+    return found == m_writes.rend() ? Bytes{} : *found;
 }
 
 }  // namespace lumo::vk

@@ -15,6 +15,8 @@ template <typename Source>
 class SourceRegistration final : public Registration {
 public:
     SourceRegistration(Source* source, void (*stop)(Source&)) : m_source(source), m_stop(stop) {}
+    SourceRegistration(const SourceRegistration&) = delete;
+    SourceRegistration& operator=(const SourceRegistration&) = delete;
     ~SourceRegistration() override {
         m_stop(*m_source);
         m_source->disconnect();
