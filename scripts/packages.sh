@@ -24,7 +24,7 @@ packagesForPicture() { printf '%s\n' xvfb xauth xdotool imagemagick; }
 packagesToTest() {
     local llvm gcc
     read -r llvm gcc <<<"$1"
-    printf '%s\n' libgtest-dev libgmock-dev libbenchmark-dev libumockdev-dev xvfb xauth dbus
+    printf '%s\n' libgtest-dev libgmock-dev libbenchmark-dev libumockdev-dev umockdev xvfb xauth dbus
     # Static checks, fuzzing, and the compile check of the Apple code against both standard libraries.
     printf '%s\n' clang clang-tidy clang-format llvm "libclang-rt-$llvm-dev" "libc++-$llvm-dev" "libc++abi-$llvm-dev"
     if [ "$(dpkg --print-architecture)" = amd64 ]; then
