@@ -3,7 +3,7 @@ add_library(lumo_options INTERFACE)
 target_compile_options(lumo_options INTERFACE
     -Wall -Wextra -Wconversion -Wshadow -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual
     $<$<BOOL:${LUMO_STRICT}>:-Werror>
-    # Values of the lighting preview are compared to the last bit, on every processor.
+    # Colours come out the same to the last bit on every processor.
     -ffp-contract=off)
 if(LUMO_SANITIZE)
     target_compile_options(lumo_options INTERFACE -fsanitize=${LUMO_SANITIZE} -fno-omit-frame-pointer)

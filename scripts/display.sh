@@ -13,8 +13,12 @@ startDisplay() {
     rm "$pipe"
     Xvfb -displayfd 9 -screen 0 1600x1200x24 -nolisten tcp >/dev/null 2>&1 &
     displayPid=$!
-    read -r -t 60 number <&9 || die "the screen in memory (Xvfb) did not start."
+    for _ in {1..60}; do
+        ! read -r -t 1 number <&9 || break
+        kill -0 "$displayPid" 2>/dev/null || break
+    done
     exec 9>&-
+    [ -n "$number" ] || die "the screen in memory (Xvfb) did not start."
     unset WAYLAND_DISPLAY
     export DISPLAY=":$number" QT_QPA_PLATFORM=xcb
 }

@@ -15,7 +15,8 @@ compilerVersions() {
 }
 
 packagesToBuild() {
-    printf '%s\n' cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libudev-dev nlohmann-json3-dev fonts-inter
+    printf '%s\n' cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libudev-dev nlohmann-json3-dev
+    printf '%s\n' qt6-wayland fonts-inter  # beside what it is built with: a window on Wayland, too, and its letters
 }
 
 # A screen in memory, keys and pictures for it.

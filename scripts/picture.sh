@@ -28,18 +28,13 @@ startProgram() {
     programPid=$!
 }
 
-mainWindow() { xdotool search --onlyvisible --pid "$programPid" --name '^Vexa Lumo 65$' 2>/dev/null | head -n 1; }
+mainWindow() { xdotool search --all --onlyvisible --pid "$programPid" --name '^Vexa Lumo 65$' 2>/dev/null | head -n 1; }
 
 windowStands() { [ -n "$(mainWindow)" ]; }
 
 handshakeIsThrough() { grep -qF '[VexaProtocol] Handshake verified with hardware!' "$programLog"; }
 
-# The light effect on the drawn keyboard never stands still: what must be the same in two pictures is the header
-# (profiles, connection) and the status bar.
-stillParts() {
-    convert "$1" \( -clone 0 -gravity north -crop x45+0+0 \) \( -clone 0 -gravity south -crop x28+0+0 \) \
-        -delete 0 +repage -append -depth 8 rgb:- | cksum
-}
+pixelsOf() { convert "$1" -depth 8 rgb:- | cksum; }
 
 # A window that has not been painted has one colour or a handful.
 isPainted() { [ "$(identify -format %k "$1")" -ge 64 ]; }
@@ -51,7 +46,7 @@ pictureIsSteady() {
     local window=$1 picture=$2 before="$2.before"
     [ ! -f "$picture" ] || mv "$picture" "$before"
     takePicture "$window" "$picture" && [ -f "$before" ] && isPainted "$picture" || return 1
-    [ "$(stillParts "$before")" = "$(stillParts "$picture")" ]
+    [ "$(pixelsOf "$before")" = "$(pixelsOf "$picture")" ]
 }
 
 # Ctrl+Q as from a keyboard; there is no window manager here that would hand out the focus.

@@ -46,9 +46,6 @@ proveSanitizer() {
 underSanitizer() { ${sanitizerPrefix[@]+"${sanitizerPrefix[@]}"} "$@"; }
 
 useSanitizerOptions() {
-    local support="$PWD/tests/support"
     export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1
     export UBSAN_OPTIONS=print_stacktrace=1 TSAN_OPTIONS=second_deadlock_stack=1
-    if [ -f "$support/lsan.supp" ]; then export LSAN_OPTIONS="suppressions=$support/lsan.supp:print_suppressions=0"; fi
-    if [ -f "$support/tsan.supp" ]; then TSAN_OPTIONS+=":suppressions=$support/tsan.supp"; fi
 }

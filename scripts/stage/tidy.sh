@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds the programs with clang and lets clang-tidy look at every file of ours on the way.
+# Builds the programs with clang and lets clang-tidy look at every file of theirs on the way.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 for piece in say system count llvm; do

@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <QScreen>
 #include <QStyle>
+#include <algorithm>
 
 #include "app/MainView.h"
 #include "app/SharedObjects.h"

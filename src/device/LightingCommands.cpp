@@ -53,8 +53,8 @@ void VexaProtocol::setLightingMode(std::int64_t modeId, std::optional<std::int64
 }
 
 void VexaProtocol::triggerBurstMode(ColorBytes color, std::int64_t speedLevel, std::int64_t brightnessLevel) {
+    postStatus("Burst Mode Triggered");  // before the I/O queue knows of it: its text comes after this one
     setLightingMode(kBurstModeId, speedLevel, brightnessLevel, color);
-    postStatus("Burst Mode Triggered");
 }
 
 }  // namespace lumo

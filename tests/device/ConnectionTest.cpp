@@ -1,4 +1,4 @@
-// Finding the keyboard, the handshake, and what is published on the way.
+// Finding the keyboard and losing it, and what is published on the way.
 #include <gmock/gmock.h>
 
 #include "support/LinkFixture.h"
@@ -45,10 +45,6 @@ TEST_F(Connection, TheIoQueueCarriesTheProgramsLabel) {
     EXPECT_EQ(platform.ioQueueLabel, "com.vexalumo.lumo65.ioqueue");
 }
 
-TEST_F(Connection, ThePasswordIsNothingButZeros) {
-    EXPECT_THAT(VexaProtocol::handshakePassword, ElementsAre(0, 0, 0, 0, 0, 0));
-}
-
 TEST_F(Connection, AKeyboardPresentAtStartIsAdoptedAndAuthenticated) {
     hid.plugKeyboard();
     link();
@@ -82,18 +78,6 @@ TEST_F(Connection, StatusGoesFromDetectedToAuthenticated) {
     time.settle();
     EXPECT_THAT(statuses(),
                 ElementsAre("Device detected. Performing authentication handshake...", "Connected & Authenticated"));
-}
-
-TEST_F(Connection, TheHandshakeIsOneQueryAndAnAnswerThirtyMillisecondsLater) {
-    link();
-    hid.plugKeyboard();
-    time.settle();
-    ASSERT_EQ(firmware.writes().size(), 1U);
-    auto query = vk::Bytes(520, 0);
-    const vk::Bytes head{0x06, 0x82, 0x01, 0x00, 0x01, 0x00, 0x06};
-    std::ranges::copy(head, query.begin());
-    EXPECT_EQ(firmware.writes().front(), query);
-    EXPECT_EQ(time.now(), 30ms);
 }
 
 TEST_F(Connection, AnInterfaceOf519BytesIsNeverAdopted) {
@@ -177,61 +161,6 @@ TEST_F(Connection, AProductNameIsKeptAsRead) {
     EXPECT_EQ(link().connectionType.get(), "<b>Lumo</b>\x1b[31m (Connected)");
 }
 
-TEST_F(Connection, AnAnswerOfSevenBytesFallsBackSilently) {
-    fault("get 82 short 7");
-    connect();
-    EXPECT_TRUE(link().isConnected.get());
-    EXPECT_FALSE(link().isAuthenticated.get());
-    EXPECT_EQ(link().statusMessage.get(), "Connected (Simulation Fallback)");
-    EXPECT_THAT(platform.console, IsEmpty());
-}
-
-TEST_F(Connection, AnAnswerOfEightBytesIsEnough) {
-    fault("get 82 short 8");
-    connect();
-    EXPECT_TRUE(link().isAuthenticated.get());
-}
-
-TEST_F(Connection, AnAnswerToAnotherCommandFallsBackSilently) {
-    fault("get 82 wrong");
-    connect();
-    EXPECT_EQ(link().statusMessage.get(), "Connected (Simulation Fallback)");
-    EXPECT_THAT(platform.console, IsEmpty());
-}
-
-TEST_F(Connection, ARefusedReadFallsBackSilently) {
-    fault("get 82 refuse");
-    connect();
-    EXPECT_EQ(link().statusMessage.get(), "Connected (Simulation Fallback)");
-    EXPECT_THAT(platform.console, IsEmpty());
-}
-
-TEST_F(Connection, ARefusedQueryFallsBackAndSaysSoOnTheConsole) {
-    fault("set 82 refuse");
-    connect();
-    EXPECT_EQ(link().statusMessage.get(), "Connected (Simulation Fallback)");
-    EXPECT_THAT(platform.console, ElementsAre("[VexaProtocol] Handshake query failed"));
-}
-
-TEST_F(Connection, NothingRetriesTheHandshakeUntilTheInterfaceIsMatchedAgain) {
-    fault("get 82 refuse once");
-    connect();
-    time.advance(60s);
-    EXPECT_THAT(firmware.writes(), IsEmpty());
-    hid.unplugAll();
-    hid.plugKeyboard();
-    time.settle();
-    EXPECT_TRUE(link().isAuthenticated.get());
-}
-
-TEST_F(Connection, InFallbackCommandsStillSendTheirReports) {
-    fault("get 82 refuse");
-    connect();
-    link().setLightingMode(5);
-    time.settle();
-    EXPECT_EQ(link().statusMessage.get(), "Applied: Raindrops");
-}
-
 TEST_F(Connection, RemovingTheKeyboardEndsInPreviewMode) {
     connect();
     hid.unplugAll();
@@ -260,42 +189,6 @@ TEST_F(Connection, WithNoDeviceHeldARemovalChangesNothing) {
     expectSimulated("Ready");
 }
 
-TEST_F(Connection, AuthenticationIsKeptUntilTheNextHandshakeEnds) {
-    connect();
-    bool seen = false;
-    hid.plug(interfaceOf(520, "Second"));
-    time.at(10ms, [&] { seen = link().isAuthenticated.get(); });
-    time.settle();
-    EXPECT_TRUE(seen);
-}
-
-TEST_F(Connection, ADeviceLostDuringTheHandshakeFallsBackAfterTheDisconnectText) {
-    recordStatuses();
-    hid.plugKeyboard();
-    time.at(10ms, [&] { hid.unplugAll(); });
-    time.settle();
-    EXPECT_THAT(statuses(),
-                ElementsAre("Device detected. Performing authentication handshake...",
-                            "Keyboard disconnected. Running in preview mode.", "Connected (Simulation Fallback)"));
-    EXPECT_FALSE(link().isConnected.get());
-}
-
-TEST_F(Connection, ADeviceLostBeforeTheHandshakeCountsAsVerified) {
-    link();
-    time.ioQueue().run.post([&] { time.ioQueue().run.pause(50ms); });  // something else holds the queue
-    hid.plugKeyboard();
-    time.at(10ms, [&] { hid.unplugAll(); });
-    time.settle();
-    EXPECT_THAT(firmware.writes(), IsEmpty());
-    EXPECT_EQ(link().statusMessage.get(), "Connected & Authenticated");
-    EXPECT_FALSE(link().isConnected.get());
-}
-
-TEST_F(Connection, WithoutADeviceTheHandshakeIsTrueAndSendsNothing) {
-    EXPECT_TRUE(link().performHandshake());
-    EXPECT_THAT(firmware.writes(), IsEmpty());
-}
-
 TEST_F(Connection, AManagerThatCannotBeOpenedListsNothingAndSaysNothing) {
     hid.refuseToOpen();
     hid.plugKeyboard();
@@ -311,17 +204,6 @@ TEST_F(Connection, AManagerThatCannotBeOpenedStillHearsOfLaterArrivals) {
     hid.plugKeyboard();
     time.settle();
     EXPECT_TRUE(link().isAuthenticated.get());
-}
-
-TEST_F(Connection, AKeyboardThatHangsInTheHandshakeFallsBackWhenTheSystemGivesUp) {
-    fault("get 82 hang");
-    link();
-    hid.plugKeyboard();
-    std::string meanwhile;
-    time.at(4s, [&] { meanwhile = link().statusMessage.get(); });
-    time.settle();
-    EXPECT_EQ(meanwhile, "Device detected. Performing authentication handshake...");
-    EXPECT_EQ(link().statusMessage.get(), "Connected (Simulation Fallback)");
 }
 
 }  // namespace

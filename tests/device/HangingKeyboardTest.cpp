@@ -10,6 +10,7 @@
 #include "app/SharedObjects.h"
 #include "foundation/SerialQueue.h"
 #include "platform/Platform.h"
+#include "support/OneDeviceManager.h"
 
 namespace lumo {
 namespace {
@@ -94,26 +95,13 @@ private:
     bool m_isReleased = false;
 };
 
-class OneDeviceManager final : public HidManager {
-public:
-    explicit OneDeviceManager(std::shared_ptr<HidDevice> device) : m_device(std::move(device)) {}
-    void setDeviceMatching(std::vector<HidMatch>) override {}
-    void onMatched(Callback) override {}
-    void onRemoved(Callback) override {}
-    bool open() override { return true; }
-    std::vector<std::shared_ptr<HidDevice>> devices() override { return {m_device}; }
-
-private:
-    std::shared_ptr<HidDevice> m_device;
-};
-
 class ThreadedPlatform final : public Platform {
 public:
     explicit ThreadedPlatform(std::shared_ptr<HidDevice> device) : m_device(std::move(device)) {}
     MainQueue mainQueue() override { return {loop}; }
     std::unique_ptr<BlockingExecutor> makeIoQueue(std::string_view) override { return std::make_unique<SerialQueue>(); }
     std::unique_ptr<HidManager> makeHidManager(IoQueue) override {
-        return std::make_unique<OneDeviceManager>(m_device);
+        return std::make_unique<test::OneDeviceManager>(m_device);
     }
     void print(std::string_view) override {}
     HandTurnedLoop loop;

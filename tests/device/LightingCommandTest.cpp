@@ -251,6 +251,25 @@ TEST_F(LightingCommand, BurstTakesItsOwnSpeedAndBrightness) {
     EXPECT_EQ(firmware.lastWrite(0x04).at(20), 2);
 }
 
+/// An I/O thread that is always ahead of the main one.
+class FasterIoThread final : public BlockingExecutor {
+public:
+    void post(Task task) override { task(); }
+    void pause(Duration) override {}
+    [[nodiscard]] bool isStopping() const override { return false; }
+    void stop() override {}
+    void finish() override {}
+};
+
+TEST_F(LightingCommand, BurstSaysItsOwnTextFirstHoweverFastTheIoThreadIs) {
+    FasterIoThread io;
+    VexaProtocol eager(
+        time.mainQueue(), {io}, hid, [this]() -> PerKeyColors& { return keyboard(); }, [](std::string_view) {});
+    eager.triggerBurstMode({9, 8, 7});
+    time.settle();
+    EXPECT_EQ(eager.statusMessage.get(), "Previewing Colorful waterfall (Simulated)");
+}
+
 TEST_F(LightingCommand, BurstWithoutAKeyboardPreviewsAfterItsOwnText) {
     recordStatuses();
     link().triggerBurstMode({9, 8, 7});

@@ -8,6 +8,7 @@
 #include "app/Program.h"
 #include "device/VexaProtocol.h"
 #include "platform/qt/NativePlatform.h"
+#include "support/OneDeviceManager.h"
 
 namespace lumo {
 namespace {
@@ -44,19 +45,6 @@ private:
     std::binary_semaphore m_never{0};
 };
 
-class OneDevice final : public HidManager {
-public:
-    explicit OneDevice(std::shared_ptr<HidDevice> device) : m_device(std::move(device)) {}
-    void setDeviceMatching(std::vector<HidMatch>) override {}
-    void onMatched(Callback) override {}
-    void onRemoved(Callback) override {}
-    bool open() override { return true; }
-    std::vector<std::shared_ptr<HidDevice>> devices() override { return {m_device}; }
-
-private:
-    std::shared_ptr<HidDevice> m_device;
-};
-
 class HangingPlatform final : public Platform {
 public:
     explicit HangingPlatform(int hangsAt) : m_hangsAt(hangsAt) {}
@@ -65,7 +53,7 @@ public:
         return m_native.makeIoQueue(label);
     }
     std::unique_ptr<HidManager> makeHidManager(IoQueue) override {
-        return std::make_unique<OneDevice>(std::make_shared<HangingDevice>(mainQueue(), m_hangsAt));
+        return std::make_unique<test::OneDeviceManager>(std::make_shared<HangingDevice>(mainQueue(), m_hangsAt));
     }
     void print(std::string_view) override {}
 

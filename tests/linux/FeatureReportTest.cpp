@@ -1,4 +1,4 @@
-#include "linux/HidFixture.h"
+#include "linux/PresentInterface.h"
 
 namespace lumo::test {
 namespace {
@@ -6,23 +6,8 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 using Get = FeatureReportPeer::Get;
 
-class FeatureReport : public HidFixture {
+class FeatureReport : public PresentInterface {
 protected:
-    MockedInterface vendor = vendorInterface();
-    DeviceRef device;
-
-    void SetUp() override {
-        HidFixture::SetUp();
-        kernel.appear(vendor);
-        const auto devices = manager->devices();
-        ASSERT_EQ(devices.size(), 1U);
-        device = devices.front();
-    }
-    void TearDown() override {
-        device.reset();
-        HidFixture::TearDown();
-    }
-
     static Bytes pattern(std::size_t length) {
         Bytes bytes(length);
         for (std::size_t i = 0; i < length; ++i) bytes[i] = static_cast<std::uint8_t>(i * 7 + 6);

@@ -1,25 +1,14 @@
-#include "linux/HidFixture.h"
+#include "linux/PresentInterface.h"
 
 namespace lumo::test {
 namespace {
 
 /// The console when the node may not be opened.
-class Rights : public HidFixture {
+class Rights : public PresentInterface {
 protected:
-    MockedInterface vendor = vendorInterface();
-    DeviceRef device;
-
     void SetUp() override {
-        HidFixture::SetUp();
-        kernel.appear(vendor);
+        PresentInterface::SetUp();
         kernel.refuseOpening(vendor);
-        const auto devices = manager->devices();
-        ASSERT_EQ(devices.size(), 1U);
-        device = devices.front();
-    }
-    void TearDown() override {
-        device.reset();
-        HidFixture::TearDown();
     }
     bool send() { return set(device, {0x06, 0x82}); }
 };

@@ -15,10 +15,12 @@ namespace {
 
 using Texts = std::set<std::string>;
 
-std::string installedFile() {
-    std::ifstream file(LUMO_RULE_FILE);
+std::string textOf(const char* path) {
+    std::ifstream file(path);
     return {std::istreambuf_iterator<char>(file), {}};
 }
+
+std::string installedFile() { return textOf(LUMO_RULE_FILE); }
 
 std::string upper(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::toupper(c); });
@@ -39,6 +41,10 @@ Texts conditionsOf(const std::string& line) {
 }
 
 TEST(UdevRule, IsOneLine) { EXPECT_EQ(kUdevRule.find('\n'), std::string_view::npos); }
+
+TEST(UdevRule, StandsInTheReadmeWordForWord) {
+    EXPECT_NE(textOf(LUMO_README_FILE).find("\n" + std::string(kUdevRule) + "\n"), std::string::npos);
+}
 
 TEST(UdevRule, LiesInAFileThatComesBeforeTheRuleThatGrantsAccess) {
     const std::string_view name = kUdevRuleFile.substr(kUdevRuleFile.rfind('/') + 1);

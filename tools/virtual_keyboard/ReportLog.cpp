@@ -4,22 +4,9 @@
 #include <nlohmann/json.hpp>
 #include <system_error>
 
+#include "Hex.h"
+
 namespace lumo::vk {
-namespace {
-
-std::string hexOf(std::span<const std::uint8_t> bytes) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    std::string text;
-    text.reserve(bytes.size() * 3);
-    for (const std::uint8_t byte : bytes) {
-        if (!text.empty()) text += ' ';
-        text += kDigits[byte >> 4];
-        text += kDigits[byte & 0x0F];
-    }
-    return text;
-}
-
-}  // namespace
 
 ReportLog::ReportLog(const std::string& path) : m_file(path, std::ios::trunc) {
     if (!m_file) throw std::system_error(errno, std::generic_category(), path);
@@ -33,7 +20,7 @@ void ReportLog::write(Direction direction, bool ok, std::span<const std::uint8_t
     line["dir"] = direction == Direction::set ? "set" : "get";
     line["ok"] = ok;
     line["len"] = bytes.size();
-    line["hex"] = hexOf(bytes);
+    line["hex"] = hexOf(bytes, " ");
     m_file << line.dump() << std::endl;  // flushed: a reader follows the file while the keyboard is in use
 }
 

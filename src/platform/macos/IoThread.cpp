@@ -3,17 +3,13 @@
 #include <pthread.h>
 #include <pthread/qos.h>
 
-#include <string>
-
 namespace lumo {
 
 void prepareIoThread(std::string_view label) {
     constexpr std::size_t kLongestName = 63;  // a longer one is refused whole
     constexpr int kHighestWithinClass = 0;
-    // The end of a reverse-domain label is what tells it from others.
-    const std::string name(label.size() > kLongestName ? label.substr(label.size() - kLongestName) : label);
     // Neither can be worth a stop: without them the reports still go out.
-    pthread_setname_np(name.c_str());
+    pthread_setname_np(threadName(label, kLongestName).c_str());
     pthread_set_qos_class_self_np(QOS_CLASS_USER_INITIATED, kHighestWithinClass);
 }
 

@@ -1,11 +1,17 @@
-#lumo_platform on macOS; included by platform.cmake only there.
-set(lumo_macos ${CMAKE_CURRENT_LIST_DIR}) set(lumo_objective_c ${lumo_macos} / Activation.mm ${lumo_macos} /
-                                              MainMenu.mm ${lumo_macos} / WindowChrome.mm)
-    target_sources(lumo_platform PRIVATE ${lumo_macos} / IoKitHidDevice.cpp ${lumo_macos} /
-                   IoKitHidManager.cpp ${lumo_macos} / IoThread.cpp ${lumo_macos} / NativeHid.cpp ${lumo_objective_c})
-        set_source_files_properties(${lumo_objective_c} PROPERTIES COMPILE_OPTIONS - fobjc - arc)
-            target_link_libraries(lumo_platform PUBLIC
-                                  "-framework AppKit"
-                                  "-framework CoreFoundation"
-                                  "-framework Foundation"
-                                  "-framework IOKit" objc)
+# lumo_platform on macOS; included by platform.cmake only there.
+set(lumo_macos ${CMAKE_CURRENT_LIST_DIR})
+set(lumo_objective_c
+    ${lumo_macos}/Activation.mm
+    ${lumo_macos}/MainMenu.mm
+    ${lumo_macos}/WindowChrome.mm
+)
+target_sources(lumo_platform PRIVATE
+    ${lumo_macos}/IoKitHidDevice.cpp
+    ${lumo_macos}/IoKitHidManager.cpp
+    ${lumo_macos}/IoThread.cpp
+    ${lumo_macos}/NativeHid.cpp
+    ${lumo_objective_c}
+)
+set_source_files_properties(${lumo_objective_c} PROPERTIES COMPILE_OPTIONS -fobjc-arc)
+target_link_libraries(lumo_platform PUBLIC
+    "-framework AppKit" "-framework CoreFoundation" "-framework Foundation" "-framework IOKit" objc)

@@ -31,7 +31,10 @@ def settled():
 
 
 def is_known(node):
-    number = os.stat(node).st_rdev
+    try:
+        number = os.stat(node).st_rdev
+    except FileNotFoundError:
+        return False  # sysfs knows it a moment before the node is there
     return os.path.exists(f"/run/udev/data/c{os.major(number)}:{os.minor(number)}")
 
 

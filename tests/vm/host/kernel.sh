@@ -9,7 +9,7 @@ kernelRelease=
 # The versioned package that the name without a version stands for; nothing when the package lists do not know it.
 kernelPackage() {
     apt-cache depends linux-image-amd64 2>/dev/null |
-        sed -n 's/^ *Depends: \(linux-image-[0-9][^ ]*\)$/\1/p' | head -n 1
+        sed -n 's/^ *Depends: \(linux-image-[0-9][^ ]*\)$/\1/p' | head -n 1 || true
 }
 
 # Also without the network a kernel unpacked earlier will do.

@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <system_error>
 
+#include "Hex.h"
+
 namespace lumo::vk {
 namespace {
 
@@ -19,13 +21,6 @@ void writeLine(int output, std::string line) {
         if (written < 0) fail("writing the answer");
         rest.remove_prefix(static_cast<std::size_t>(written));
     }
-}
-
-std::string hexOf(std::span<const std::uint8_t> bytes) {
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    std::string text;
-    for (const std::uint8_t byte : bytes) text.append({kDigits[byte >> 4], kDigits[byte & 0x0F]});
-    return text;
 }
 
 }  // namespace
