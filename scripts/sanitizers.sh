@@ -46,6 +46,6 @@ proveSanitizer() {
 underSanitizer() { ${sanitizerPrefix[@]+"${sanitizerPrefix[@]}"} "$@"; }
 
 useSanitizerOptions() {
-    export ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1:detect_stack_use_after_return=1
+    export ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1
     export UBSAN_OPTIONS=print_stacktrace=1 TSAN_OPTIONS=second_deadlock_stack=1
 }
