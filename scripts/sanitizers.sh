@@ -46,6 +46,7 @@ proveSanitizer() {
 underSanitizer() { ${sanitizerPrefix[@]+"${sanitizerPrefix[@]}"} "$@"; }
 
 useSanitizerOptions() {
+    export LSAN_OPTIONS="suppressions=$PWD/tests/support/lsan.supp:print_suppressions=0"
     export ASAN_OPTIONS=detect_leaks=1:detect_stack_use_after_return=1
     export UBSAN_OPTIONS=print_stacktrace=1 TSAN_OPTIONS=second_deadlock_stack=1
 }

@@ -12,11 +12,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
+// What the tasks use is declared before the queue, whose end waits for the task under way.
+
 TEST(SerialQueue, RunsTasksInOrderOnOneThreadOfItsOwn) {
-    SerialQueue queue;
     std::vector<int> order;
     std::vector<std::thread::id> threads;
     std::promise<void> done;
+    SerialQueue queue;
     for (int i = 0; i < 100; ++i) {
         queue.post([&, i] {
             order.push_back(i);
@@ -40,9 +42,9 @@ TEST(SerialQueue, PreparesItsThreadBeforeTheFirstTask) {
 }
 
 TEST(SerialQueue, StoppingEndsAPauseAtOnceAndBeginsNothingMore) {
-    SerialQueue queue;
     std::promise<void> pausing;
     std::atomic<bool> second = false;
+    SerialQueue queue;
     queue.post([&] {
         pausing.set_value();
         queue.pause(1h);
@@ -57,9 +59,9 @@ TEST(SerialQueue, StoppingEndsAPauseAtOnceAndBeginsNothingMore) {
 }
 
 TEST(SerialQueue, StoppingReturnsWhileATaskHangs) {
-    SerialQueue queue;
     std::promise<void> hanging;
     std::promise<void> release;
+    SerialQueue queue;
     queue.post([&] {
         hanging.set_value();
         release.get_future().wait();
@@ -71,8 +73,9 @@ TEST(SerialQueue, StoppingReturnsWhileATaskHangs) {
 }
 
 TEST(SerialQueue, TasksPostedFromManyThreadsAllRun) {
-    SerialQueue queue;
     int ran = 0;
+    std::promise<void> done;
+    SerialQueue queue;
     {
         std::vector<std::jthread> posters;
         for (int t = 0; t < 4; ++t) {
@@ -81,18 +84,17 @@ TEST(SerialQueue, TasksPostedFromManyThreadsAllRun) {
             });
         }
     }
-    std::promise<void> done;
     queue.post([&] { done.set_value(); });
     done.get_future().wait();
     EXPECT_EQ(ran, 1000);
 }
 
 TEST(SerialQueue, ADroppedTaskIsDestroyed) {
-    auto owned = std::make_shared<int>(1);
-    const std::weak_ptr<int> watched = owned;
-    SerialQueue queue;
     std::promise<void> hanging;
     std::promise<void> release;
+    SerialQueue queue;
+    auto owned = std::make_shared<int>(1);
+    const std::weak_ptr<int> watched = owned;
     queue.post([&] {
         hanging.set_value();
         release.get_future().wait();
