@@ -3,6 +3,7 @@
 set -uo pipefail
 export PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin
 out=/mnt/lumo-out
+files=/run/lumo-files
 # shellcheck source=/dev/null
 . $out/job
 : "${lumoTests:?}" "${lumoBuild:?}" "${lumoKernel:?}" "${lumoFault=}"
@@ -39,15 +40,23 @@ startDeviceManager() {
     udevadm control --ping
 }
 
+# The checkout may lie where only its owner can look, as in /root; the program runs as somebody else.
+copyFiles() {
+    mkdir -p $files
+    cp "$lumoTests"/guest/*.py "$lumoBuild"/bin/{vexa-lumo-65,lumo-uhid-keyboard,lumo-usbip-keyboard} $files
+    chmod -R a+rX $files
+}
+
 runScenario() {
-    cd / || return
-    LUMO_BIN=$lumoBuild/bin LUMO_FAULT=$lumoFault LUMO_OUT=$out PYTHONUNBUFFERED=1 PYTHONDONTWRITEBYTECODE=1 \
-        LANG=C.UTF-8 /usr/bin/python3 "$lumoTests/guest/scenario.py" >>$out/report.txt 2>&1
+    cd /tmp || return
+    LUMO_BIN=$files LUMO_FAULT=$lumoFault LUMO_OUT=$out PYTHONUNBUFFERED=1 PYTHONDONTWRITEBYTECODE=1 \
+        LANG=C.UTF-8 /usr/bin/python3 $files/scenario.py >>$out/report.txt 2>&1
 }
 
 mountSystem
 loadDrivers
 startDeviceManager
+copyFiles
 runScenario
 echo $? >$out/status
 cp -r /run/lumo/. $out/ 2>/dev/null
