@@ -49,7 +49,7 @@ copyFiles() {
 
 runScenario() {
     cd /tmp || return
-    LUMO_BIN=$files LUMO_FAULT=$lumoFault LUMO_OUT=$out PYTHONUNBUFFERED=1 PYTHONDONTWRITEBYTECODE=1 \
+    LUMO_BIN=$files LUMO_FAULT=$lumoFault PYTHONUNBUFFERED=1 PYTHONDONTWRITEBYTECODE=1 \
         LANG=C.UTF-8 /usr/bin/python3 $files/scenario.py >>$out/report.txt 2>&1
 }
 
