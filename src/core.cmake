@@ -1,6 +1,8 @@
 add_library(lumo_core STATIC
     app/SharedObjects.cpp
     device/Exchange.cpp
+    device/KeyTableCommands.cpp
+    device/KeyTableReports.cpp
     device/LightingCommands.cpp
     device/LightingReports.cpp
     device/PerKeyCommands.cpp

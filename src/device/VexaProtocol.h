@@ -8,9 +8,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "device/Exchange.h"
 #include "device/HeldDevice.h"
+#include "device/KeyTableReports.h"
 #include "device/LightingModes.h"
 #include "device/PerKeyColors.h"
 #include "foundation/Color.h"
@@ -69,11 +71,29 @@ public:
     /// Uploads colours by LED number and switches to the effect that shows them.
     void setPerKeyRGB(LedColors colors);
 
+    /// A whole report with the key table, or none.
+    using KeyTableCompletion = std::function<void(const std::optional<std::vector<std::uint8_t>>& table)>;
+
+    /// Reads the key table: the keyboard's answer of 512 to 520 bytes, or none when it fails. Completes on the main
+    /// queue; without a keyboard on the I/O queue, with the table last read or written.
+    void readKeyRemapTable(KeyTableCompletion completion);
+
+    /// Gives one place of the key matrix a code of exactly four bytes; any other count is ignored. Reads the table
+    /// first unless one is known. Silent without a keyboard, after a failed read and for a place outside the table.
+    void setKeyRemap(std::int64_t matrixPos, const std::vector<std::uint8_t>& codeBytes);
+
+    /// The same with the four bytes in one number, most significant first.
+    void setKeyRemap(std::int64_t matrixPos, std::uint32_t hidCode);
+
+    /// Writes a whole table under our own header; shorter than 520 bytes, it is filled up with zeros.
+    void setKeyRemapTable(std::vector<std::uint8_t> keyMatrixData);
+
 private:
     void deviceMatched(const std::shared_ptr<HidDevice>& device);
     void deviceRemoved(const std::shared_ptr<HidDevice>& device);
     void checkConnectedDevices();
     void postStatus(std::string text);
+    void writeKey(std::int64_t matrixPos, const KeyCode& code);
 
     MainQueue m_main;
     IoQueue m_io;
@@ -81,6 +101,7 @@ private:
     std::function<PerKeyColors&()> m_perKeyColors;
     Print m_print;
     HeldDevice m_device;
+    std::optional<std::vector<std::uint8_t>> m_cachedKeyMatrix;  // I/O queue; the table last read or written
 };
 
 }  // namespace lumo

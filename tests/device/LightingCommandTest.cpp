@@ -1,6 +1,7 @@
 // A lighting command as a whole: what goes over the wire, when, and what is published.
 #include <gmock/gmock.h>
 
+#include "support/FasterIoThread.h"
 #include "support/LinkFixture.h"
 
 namespace lumo {
@@ -251,18 +252,8 @@ TEST_F(LightingCommand, BurstTakesItsOwnSpeedAndBrightness) {
     EXPECT_EQ(firmware.lastWrite(0x04).at(20), 2);
 }
 
-/// An I/O thread that is always ahead of the main one.
-class FasterIoThread final : public BlockingExecutor {
-public:
-    void post(Task task) override { task(); }
-    void pause(Duration) override {}
-    [[nodiscard]] bool isStopping() const override { return false; }
-    void stop() override {}
-    void finish() override {}
-};
-
 TEST_F(LightingCommand, BurstSaysItsOwnTextFirstHoweverFastTheIoThreadIs) {
-    FasterIoThread io;
+    test::FasterIoThread io;
     VexaProtocol eager(
         time.mainQueue(), {io}, hid, [this]() -> PerKeyColors& { return keyboard(); }, [](std::string_view) {});
     eager.triggerBurstMode({9, 8, 7});
