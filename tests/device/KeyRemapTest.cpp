@@ -87,6 +87,16 @@ TEST_F(KeyRemap, ARefusedRequestReadsNothing) {
     EXPECT_EQ(read(), Table());
 }
 
+TEST_F(KeyRemap, AFailedReadLeavesTheKnownTable) {
+    connect();
+    const auto table = read();
+    fault("get 83 nothing once");
+    EXPECT_EQ(read(), Table());
+    hid.unplugAll();
+    time.settle();
+    EXPECT_EQ(read(), table);
+}
+
 TEST_F(KeyRemap, AnAnswerOf511BytesOrToAnotherCommandIsNoTable) {
     connect();
     fault("get 83 short 511 once");
