@@ -82,8 +82,7 @@ TEST_F(Delegate, TheMenuHoldsOnlyTheQuitItemWithItsKeyEquivalent) {
 
 TEST_F(Delegate, CtrlQQuitsTheApplication) {
     QMainWindow& window = launch();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));  // a shortcut counts in the active window only
     QMetaObject::invokeMethod(
         qApp, [&] { QTest::keyClick(&window, Qt::Key_Q, Qt::ControlModifier); }, Qt::QueuedConnection);
     EXPECT_EQ(QApplication::exec(), 0);
