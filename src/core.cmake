@@ -13,9 +13,13 @@ add_library(lumo_core STATIC
     foundation/Observable.cpp
     foundation/SerialQueue.cpp
     foundation/Uuid.cpp
+    keyboard/KeyNavigation.cpp
+    keyboard/KeyboardActions.cpp
     keyboard/KeyboardLayout.cpp
     keyboard/KeyboardModel.cpp
     keyboard/LightingActions.cpp
+    keyboard/LightingEngine.cpp
+    keyboard/SelectionText.cpp
     macro/MacroItem.cpp
 )
 target_include_directories(lumo_core PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})

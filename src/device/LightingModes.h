@@ -26,6 +26,11 @@ struct LightingModeInfo {
 inline constexpr std::int64_t kPerKeyModeId = 21;
 inline constexpr std::int64_t kRotatingStormModeId = 18;  // shares its firmware number with the per-key effect
 
+/// The effects in which the pages upload the keys' own colours instead of a mode.
+[[nodiscard]] constexpr bool paintsKeys(std::int64_t modeId) {
+    return modeId == kPerKeyModeId || modeId == kRotatingStormModeId;
+}
+
 /// The whole catalogue. 19 and 20 do not exist.
 inline constexpr auto kLightingModes = std::to_array<LightingModeInfo>({
     // id  name                          hwId   speed  bright color  perKey stream

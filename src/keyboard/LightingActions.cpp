@@ -2,6 +2,7 @@
 
 #include "app/UIState.h"
 #include "device/VexaProtocol.h"
+#include "keyboard/ColorPalette.h"
 #include "keyboard/KeyboardModel.h"
 
 namespace lumo {
@@ -13,12 +14,33 @@ constexpr std::int64_t kStaticModeId = 1;
 
 void LightingActions::chooseEffect(std::int64_t number) {
     m_link.activeModeId.set(number);
-    if (number == kPerKeyModeId || number == kRotatingStormModeId) {
+    if (paintsKeys(number)) {
         m_keyboard.syncToDevice();
     } else {
         updateDeviceLighting();
     }
 }
+
+void LightingActions::pickColor(const Color& color) {
+    m_state.selectedColor.set(color);
+    if (!paintsKeys(m_link.activeModeId.get())) return updateDeviceLighting();
+    if (m_keyboard.selectedKeyIds.get().empty()) return m_keyboard.applyColorToAll(color);
+    m_keyboard.applyColorToSelection(color);
+}
+
+void LightingActions::pickPresetColor(std::int64_t index) {
+    if (index < 0 || index >= static_cast<std::int64_t>(kPresetColors.size())) return;
+    pickColor(kPresetColors[static_cast<std::size_t>(index)]);
+}
+
+void LightingActions::paintSelected() { m_keyboard.applyColorToSelection(m_state.selectedColor.get()); }
+
+void LightingActions::fillAll() {
+    m_keyboard.selectPresetGroup("All");
+    paintSelected();
+}
+
+void LightingActions::applyRainbow() { m_keyboard.applyRainbowPreset(); }
 
 void LightingActions::updateDeviceLighting() {
     const Color color = m_state.selectedColor.get();

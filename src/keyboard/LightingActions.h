@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "foundation/Color.h"
+
 namespace lumo {
 
 class KeyboardModel;
@@ -21,6 +23,18 @@ public:
     /// Sends the active effect with the levels and the colour the user has chosen; the static effect also shows
     /// that colour on every key.
     void updateDeviceLighting();
+
+    /// A colour was chosen. In the per-key effects it paints the selected keys, or all when none is selected; in the
+    /// others it is sent with the effect.
+    void pickColor(const Color& color);
+
+    /// The same with a colour of the palette; an index outside it does nothing.
+    void pickPresetColor(std::int64_t index);
+
+    /// These three upload the keys' colours, whatever the effect. Filling leaves every key selected.
+    void paintSelected();
+    void fillAll();
+    void applyRainbow();
 
 private:
     VexaProtocol& m_link;
