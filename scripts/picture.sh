@@ -34,7 +34,8 @@ windowStands() { [ -n "$(mainWindow)" ]; }
 
 handshakeIsThrough() { grep -qF '[VexaProtocol] Handshake verified with hardware!' "$programLog"; }
 
-pixelsOf() { convert "$1" -depth 8 rgb:- | cksum; }
+# Of what stands still once the window is painted: header and status bar. Between them the keyboard lives.
+pixelsOf() { convert "$1" \( -clone 0 -gravity North -crop x45+0+0 \) \( -clone 0 -gravity South -crop x28+0+0 \) -delete 0 +repage -append -depth 8 rgb:- | cksum; }
 
 # A window that has not been painted has one colour or a handful.
 isPainted() { [ "$(identify -format %k "$1")" -ge 64 ]; }

@@ -1,4 +1,5 @@
 add_library(lumo_core STATIC
+    app/AssetPaths.cpp
     app/SharedObjects.cpp
     device/Exchange.cpp
     device/KeyTableCommands.cpp
@@ -10,6 +11,7 @@ add_library(lumo_core STATIC
     device/Report.cpp
     device/VexaProtocol.cpp
     foundation/Color.cpp
+    foundation/FrameDeadlines.cpp
     foundation/Observable.cpp
     foundation/SerialQueue.cpp
     foundation/Uuid.cpp

@@ -7,6 +7,7 @@
 
 #include "controls/Panel.h"
 #include "controls/PopupMenu.h"
+#include "controls/Symbol.h"
 #include "controls/Theme.h"
 
 namespace lumo {
@@ -44,10 +45,11 @@ QRectF scaled(const QRectF& rect, double factor) {
 
 }  // namespace
 
-void BrandMark::paint(QPainter& painter, const QRectF& rect, const QColor& fill) {
+void BrandMark::paint(QPainter& painter, const QRectF& rect, const QColor& fill) const {
+    const QString hexagon = QStringLiteral("hexagon.fill");
     // The violet hardly differs from the header: a lighter rim, about a point wide, keeps its outline.
-    m_rim.paint(painter, scaled(rect, 1.07), mix(fill, theme::kAccentLine, 0.6));
-    m_hexagon.paint(painter, scaled(rect, 0.96), fill);
+    paintSymbol(painter, scaled(rect, 1.07), hexagon, mix(fill, theme::kAccentLine, 0.6));
+    paintSymbol(painter, scaled(rect, 0.96), hexagon, fill);
 }
 
 BrandButton::BrandButton(QAction& quit, QWidget* parent) : QAbstractButton(parent), m_menu(makePopupMenu(this)) {

@@ -5,7 +5,6 @@
 
 #include "controls/Accessible.h"
 #include "controls/Fade.h"
-#include "controls/Symbol.h"
 
 class QMenu;
 
@@ -15,11 +14,7 @@ namespace lumo {
 class BrandMark final {
 public:
     /// Paints into a square, in a violet of its own choice or in a hovered or pressed one.
-    void paint(QPainter& painter, const QRectF& rect, const QColor& fill);
-
-private:
-    Symbol m_hexagon{"hexagon.fill"};
-    Symbol m_rim{"hexagon.fill"};
+    void paint(QPainter& painter, const QRectF& rect, const QColor& fill) const;
 };
 
 /// Main thread. A click opens the menu below the mark; so do Return and the arrow down.

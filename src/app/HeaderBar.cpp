@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "app/ConnectionDot.h"
+#include "app/ProfileBar.h"
 #include "controls/TextLine.h"
 #include "controls/Theme.h"
 
@@ -21,6 +22,8 @@ constexpr int kMarkY = (kRowHeight - BrandButton::kMarkSize) / 2;
 constexpr int kTitleX = kMarkX + BrandButton::kMarkSize + 8;
 constexpr int kDotToText = 8;
 constexpr int kLongestConnection = 220;
+constexpr int kGap = 16;  // on both sides of the separator
+constexpr int kSeparatorHeight = 20;
 
 void place(QWidget& line, int x, int width) {
     const int height = line.sizeHint().height();
@@ -33,16 +36,20 @@ HeaderBar::HeaderBar(QAction* quit, QWidget* parent)
     : QWidget(parent),
       m_brand(quit ? new BrandButton(*quit, this) : nullptr),
       m_title(new TextLine(theme::kBrandStyle, theme::kText, this)),
+      m_profiles(new ProfileBar(this)),
       m_dot(new ConnectionDot(this)),
       m_connection(new TextLine(theme::kLinkStyle, theme::kTextLink, this)) {
     m_title->setText("VEXA LUMO 65");
     place(*m_title, kTitleX, m_title->sizeHint().width());
     if (m_brand) m_brand->move(kMarkX - BrandButton::kRoom, kMarkY - BrandButton::kRoom);
+    connect(m_profiles, &ProfileBar::chosen, this, &HeaderBar::profileChosen);
 }
+
+void HeaderBar::setActiveProfile(std::int64_t number) { m_profiles->setSelected(number); }
 
 void HeaderBar::setConnection(bool isConnected, std::string_view connectionType) {
     m_dot->setConnected(isConnected);
-    if (m_connection->setText(connectionType)) placeConnection();
+    if (m_connection->setText(connectionType)) placeRightGroup();
 }
 
 void HeaderBar::contextMenuEvent(QContextMenuEvent* event) {
@@ -50,19 +57,23 @@ void HeaderBar::contextMenuEvent(QContextMenuEvent* event) {
     m_brand->menu()->popup(event->globalPos());
 }
 
-void HeaderBar::placeConnection() {
+void HeaderBar::placeRightGroup() {
     const int textWidth = m_connection->widthWithin(kLongestConnection);
     const int textX = width() - theme::kWindowMargin - textWidth;
     place(*m_connection, textX, textWidth);
     const int dotX = textX - kDotToText - ConnectionDot::kDiameter;
     m_dot->move(dotX - ConnectionDot::kGlowReach, (kRowHeight - m_dot->height()) / 2);
+    m_separatorX = dotX - kGap - 1;
+    place(*m_profiles, m_separatorX - kGap - m_profiles->sizeHint().width(), m_profiles->sizeHint().width());
+    update();
 }
 
-void HeaderBar::resizeEvent(QResizeEvent*) { placeConnection(); }
+void HeaderBar::resizeEvent(QResizeEvent*) { placeRightGroup(); }
 
 void HeaderBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(0, kRowHeight, width(), 1, theme::kHeaderLine);
+    painter.fillRect(m_separatorX, (kRowHeight - kSeparatorHeight) / 2, 1, kSeparatorHeight, theme::kHeaderSeparator);
     if (m_brand) return;
     m_mark.paint(painter, QRectF(kMarkX, kMarkY, BrandButton::kMarkSize, BrandButton::kMarkSize), theme::kAccent);
 }

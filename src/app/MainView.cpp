@@ -4,26 +4,37 @@
 #include <QPainter>
 #include <QWindow>
 #include <algorithm>
+#include <chrono>
 
 #include "app/HeaderBar.h"
+#include "app/NavigationBar.h"
+#include "app/PageArea.h"
 #include "app/SharedObjects.h"
 #include "app/StatusBar.h"
+#include "controls/FocusRing.h"
 #include "controls/Theme.h"
+#include "foundation/ReferenceDate.h"
+#include "keyboard/KeyboardView.h"
 #include "keyboard/LightingControlView.h"
 
 namespace lumo {
 namespace {
 
 constexpr int kWidestColumn = 1040;
-constexpr int kPageTop = 340;  // the keyboard's row ends here
+constexpr int kNavigationTop = 53;
+constexpr int kKeyboardTop = 92;
+constexpr int kPageTop = kKeyboardTop + KeyboardView::kHeight;
 constexpr int kPageToStatus = 12;
 
 MainQueue mainQueue() { return SharedObjects::current().mainQueue(); }
 
-QRect pageArea(const QSize& window) {
-    const int width = std::min(window.width() - 2 * theme::kWindowMargin, kWidestColumn);
-    const int height = window.height() - StatusBar::kHeight - kPageToStatus - kPageTop;
-    return {(window.width() - width) / 2, kPageTop, width, height};
+double frameTime() { return secondsSinceReferenceDate(std::chrono::system_clock::now()); }
+
+/// Null for a page that does not exist yet.
+QWidget* makePage(NavTab tab) {
+    if (tab != NavTab::lighting) return nullptr;
+    return new LightingControlView(VexaProtocol::shared(), UIState::shared(), KeyboardModel::shared(), mainQueue(),
+                                   nullptr);
 }
 
 }  // namespace
@@ -33,17 +44,37 @@ MainView::MainView(QAction* quit, QWidget* parent)
       m_link(VexaProtocol::shared()),
       m_state(UIState::shared()),
       m_header(new HeaderBar(quit, this)),
-      m_lighting(new LightingControlView(m_link, m_state, KeyboardModel::shared(), mainQueue(), this)),
+      m_navigation(new NavigationBar(m_state.currentTab.get(), this)),
+      m_keyboard(new KeyboardView(m_link, m_state, KeyboardModel::shared(), mainQueue(), frameTime, this)),
+      m_page(new PageArea(this)),
       m_status(new StatusBar(this)),
       m_refresh(mainQueue(), [this] { refresh(); }),
-      m_linkChanges(m_link.observe([this] { m_refresh.request(); })) {
+      m_linkChanges(m_link.observe([this] { m_refresh.request(); })),
+      m_stateChanges(m_state.observe([this] { m_refresh.request(); })) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    new FocusRing(*this);
+    connect(m_header, &HeaderBar::profileChosen, this, &MainView::switchProfile);
+    connect(m_navigation, &NavigationBar::chosen, this, [this](NavTab tab) { m_state.currentTab.set(tab); });
     refresh();
 }
 
+void MainView::switchProfile(std::int64_t number) {
+    m_state.activeProfile.set(number);
+    m_link.statusMessage.set("Switched to Profile " + std::to_string(number));
+}
+
 void MainView::refresh() {
+    m_header->setActiveProfile(m_state.activeProfile.get());
     m_header->setConnection(m_link.isConnected.get(), m_link.connectionType.get());
+    m_navigation->setSelected(m_state.currentTab.get());
+    showTab(m_state.currentTab.get());
     m_status->setMessage(m_link.statusMessage.get());
+}
+
+void MainView::showTab(NavTab tab) {
+    if (tab == m_shownTab) return;
+    m_shownTab = tab;
+    m_page->setPage(makePage(tab));
 }
 
 void MainView::mousePressEvent(QMouseEvent* event) {
@@ -62,9 +93,15 @@ void MainView::showEvent(QShowEvent*) {
 }
 
 void MainView::resizeEvent(QResizeEvent*) {
+    const int columnWidth = std::min(width() - 2 * theme::kWindowMargin, kWidestColumn);
+    const int left = (width() - columnWidth) / 2;
+    const int statusTop = height() - StatusBar::kHeight;
     m_header->setGeometry(0, 0, width(), HeaderBar::kHeight);
-    m_lighting->setGeometry(pageArea(size()));
-    m_status->setGeometry(0, height() - StatusBar::kHeight, width(), StatusBar::kHeight);
+    m_navigation->setGeometry(left, kNavigationTop, columnWidth, NavigationBar::kHeight);
+    m_keyboard->setGeometry(left - KeyboardView::kShadow, kKeyboardTop, columnWidth + KeyboardView::kShadow,
+                            KeyboardView::kHeight);
+    m_page->setGeometry(left, kPageTop, columnWidth, statusTop - kPageToStatus - kPageTop);
+    m_status->setGeometry(0, statusTop, width(), StatusBar::kHeight);
 }
 
 }  // namespace lumo

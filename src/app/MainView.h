@@ -1,8 +1,10 @@
-// The window's content: header, page and status bar.
+// The window's content: header, navigation, keyboard, page and status bar.
 #pragma once
 
 #include <QWidget>
+#include <optional>
 
+#include "app/NavTab.h"
 #include "foundation/CoalescedRefresh.h"
 #include "foundation/Observable.h"
 
@@ -11,7 +13,9 @@ class QAction;
 namespace lumo {
 
 class HeaderBar;
-class LightingControlView;
+class KeyboardView;
+class NavigationBar;
+class PageArea;
 class StatusBar;
 class UIState;
 class VexaProtocol;
@@ -32,15 +36,21 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void switchProfile(std::int64_t number);
+    void showTab(NavTab tab);
     void refresh();
 
     VexaProtocol& m_link;
     UIState& m_state;
     HeaderBar* m_header;
-    LightingControlView* m_lighting;
+    NavigationBar* m_navigation;
+    KeyboardView* m_keyboard;
+    PageArea* m_page;
     StatusBar* m_status;
+    std::optional<NavTab> m_shownTab;
     CoalescedRefresh m_refresh;
     Subscription m_linkChanges;
+    Subscription m_stateChanges;
 };
 
 }  // namespace lumo

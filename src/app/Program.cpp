@@ -7,6 +7,7 @@
 #include "app/SharedObjects.h"
 #include "controls/Theme.h"
 #include "foundation/Identity.h"
+#include "platform/qt/WindowSystem.h"
 
 namespace lumo {
 namespace {
@@ -24,6 +25,7 @@ void runProgram(QApplication& application, Platform& platform) {
     AppDelegate delegate;
     QMetaObject::invokeMethod(
         &application, [&delegate] { delegate.applicationDidFinishLaunching(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&application, window_system::followMotionPreference, Qt::QueuedConnection);
     const int status = QApplication::exec();
     delegate.applicationWillTerminate();
     std::_Exit(status);

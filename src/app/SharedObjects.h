@@ -10,6 +10,8 @@
 
 namespace lumo {
 
+class AssetManager;
+
 /// Main thread. The entry point installs one over the native platform and never releases it; a test installs a
 /// fresh one over fakes and drops it at its end. The platform outlives it.
 class SharedObjects final {
@@ -23,9 +25,14 @@ public:
     static SharedObjects& current();
 
     [[nodiscard]] MainQueue mainQueue() { return m_platform.mainQueue(); }
+    [[nodiscard]] Bundle& bundle() { return m_platform.bundle(); }
     [[nodiscard]] VexaProtocol& vexaProtocol();
     [[nodiscard]] UIState& uiState();
     [[nodiscard]] KeyboardModel& keyboardModel();
+
+    /// A place for the one that AssetManager::shared() makes. It is only named here, since it holds Qt images, which
+    /// the models must not see; whoever fills the place also brings the way to delete it.
+    [[nodiscard]] std::shared_ptr<AssetManager>& assetManager() { return m_assetManager; }
 
     /// For quitting: the report under way is the last one. Returns at once, also when the keyboard hangs.
     void stopDeviceTraffic();
@@ -41,6 +48,7 @@ private:
     std::unique_ptr<VexaProtocol> m_vexaProtocol;
     std::unique_ptr<UIState> m_uiState;
     std::unique_ptr<KeyboardModel> m_keyboardModel;
+    std::shared_ptr<AssetManager> m_assetManager;
 };
 
 }  // namespace lumo

@@ -9,6 +9,16 @@ namespace lumo {
 namespace {
 
 constexpr int kLineHeight = 1;
+constexpr int kGap = 14;  // on both sides of a separator
+constexpr int kSeparatorHeight = 12;
+
+int centred(int height) { return kLineHeight + (StatusBar::kHeight - kLineHeight - height) / 2; }
+
+int placeAt(TextLine& line, int x, int width) {
+    const int height = line.sizeHint().height();
+    line.setGeometry(x, centred(height), width, height);
+    return x;
+}
 
 /// The message's own change of name is told by its label. Newer Qt also speaks it without the focus being there.
 void announce([[maybe_unused]] TextLine& message) {
@@ -21,7 +31,15 @@ void announce([[maybe_unused]] TextLine& message) {
 }  // namespace
 
 StatusBar::StatusBar(QWidget* parent)
-    : QWidget(parent), m_message(new TextLine(theme::kFineStyle, theme::kTextStatus, this)) {}
+    : QWidget(parent), m_message(new TextLine(theme::kFineStyle, theme::kTextStatus, this)) {
+    addFixedText("Protocol: SinoWealth K916 (BYCOMBO4)");
+    addFixedText("VID: 0x258A | PID: 0x010C");
+}
+
+void StatusBar::addFixedText(std::string_view text) {
+    m_fixedTexts.push_back(new TextLine(theme::kFineStyle, theme::kTextFixed, this));
+    m_fixedTexts.back()->setText(text);
+}
 
 void StatusBar::setMessage(std::string_view message) {
     if (m_message->setText(message)) announce(*m_message);
@@ -33,12 +51,20 @@ void StatusBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), theme::kBar);
     painter.fillRect(0, 0, width(), kLineHeight, theme::kStatusLine);
+    for (const int x : m_separators) {
+        painter.fillRect(x, centred(kSeparatorHeight), 1, kSeparatorHeight, theme::kStatusSeparator);
+    }
 }
 
 void StatusBar::resizeEvent(QResizeEvent*) {
-    const int lineHeight = m_message->sizeHint().height();
-    m_message->setGeometry(theme::kWindowMargin, kLineHeight + (kHeight - kLineHeight - lineHeight) / 2,
-                           width() - 2 * theme::kWindowMargin, lineHeight);
+    m_separators.clear();
+    int right = width() - theme::kWindowMargin;
+    for (auto text = m_fixedTexts.rbegin(); text != m_fixedTexts.rend(); ++text) {
+        const int textWidth = (*text)->sizeHint().width();
+        m_separators.push_back(placeAt(**text, right - textWidth, textWidth) - kGap - 1);
+        right = m_separators.back() - kGap;
+    }
+    placeAt(*m_message, theme::kWindowMargin, right - theme::kWindowMargin);
 }
 
 }  // namespace lumo

@@ -1,8 +1,9 @@
-// The foot of the window: what happened last.
+// The foot of the window: what happened last, and which keyboard the program is for.
 #pragma once
 
 #include <QWidget>
 #include <string_view>
+#include <vector>
 
 #include "controls/Accessible.h"
 
@@ -29,7 +30,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void addFixedText(std::string_view text);
+
     TextLine* m_message;
+    std::vector<TextLine*> m_fixedTexts;  // from left to right
+    std::vector<int> m_separators;        // where they stand
 };
 
 }  // namespace lumo

@@ -1,31 +1,26 @@
-// A section of a page: a rounded surface, a heading and one content.
+// A part of a page: a rounded surface with one section.
 #pragma once
 
 #include <QWidget>
 
-#include "controls/Accessible.h"
-
 namespace lumo {
 
-class TextLine;
+class Section;
 
-/// Main thread. Owns the content, which takes all the room below the heading; where that is less than the content's
-/// minimum height, the content reaches into the lower padding.
-class Card final : public QWidget, public AccessibleSource {
+/// Main thread. Owns the section, which it gives its whole width inside the padding, and as much of its height as the
+/// section says it needs.
+class Card final : public QWidget {
     Q_OBJECT
 
 public:
-    Card(std::string_view heading, QWidget* content, QWidget* parent);
-
-    QAccessibleInterface* makeAccessible() override;
+    Card(Section* section, QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    TextLine* m_heading;
-    QWidget* m_content;
+    Section* m_section;
 };
 
 }  // namespace lumo

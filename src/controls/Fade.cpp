@@ -1,17 +1,17 @@
 #include "controls/Fade.h"
 
-#include <QStyle>
+#include "controls/Motion.h"
 
 namespace lumo {
 namespace {
 
-bool animationsAreOn(const QWidget& widget) {
-    return widget.isVisible() && widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) > 0;
-}
+bool animationsAreOn(const QWidget& widget) { return widget.isVisible() && !motionIsReduced(); }
 
 }  // namespace
 
-Fade::Fade(QWidget& owner, double initial) : m_owner(owner), m_from(initial), m_value(initial), m_target(initial) {
+Fade::Fade(QWidget& owner) : Fade(owner, [&owner] { owner.update(); }) {}
+
+Fade::Fade(QWidget& owner, std::function<void()> moved) : m_owner(owner), m_moved(std::move(moved)) {
     m_way.setStartValue(0.0);
     m_way.setEndValue(1.0);
     m_way.setEasingCurve(QEasingCurve::OutCubic);
@@ -32,13 +32,18 @@ void Fade::to(double target, int durationMs) {
 void Fade::set(double value) {
     if (value == m_value) return;
     m_value = value;
-    m_owner.update();
+    m_moved();
 }
 
 QColor mix(const QColor& from, const QColor& to, double share) {
     const auto between = [share](int a, int b) { return qRound(a + (b - a) * share); };
     return {between(from.red(), to.red()), between(from.green(), to.green()), between(from.blue(), to.blue()),
             between(from.alpha(), to.alpha())};
+}
+
+QColor faded(QColor color, double share) {
+    color.setAlphaF(color.alphaF() * static_cast<float>(share));
+    return color;
 }
 
 }  // namespace lumo

@@ -4,7 +4,7 @@
 
 namespace lumo {
 
-void paintPanel(QPainter& painter, const QRectF& rect, double radius, const QColor& fill, const QColor& line) {
+void paintPanel(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill, const QColor& line) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(fill);
@@ -12,6 +12,10 @@ void paintPanel(QPainter& painter, const QRectF& rect, double radius, const QCol
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(line, 1.0));
     painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
+}
+
+void paintCard(QPainter& painter, const QRectF& rect) {
+    paintPanel(painter, rect, theme::kCardRadius, theme::kCard, theme::kCardLine);
 }
 
 void paintFocusRing(QPainter& painter, const QRectF& rect, double outerRadius) {

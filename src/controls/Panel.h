@@ -1,6 +1,7 @@
 // Rounded surfaces with a line on their inner edge, and the ring of keyboard focus.
 #pragma once
 
+#include <QBrush>
 #include <QColor>
 #include <QPainter>
 #include <QRectF>
@@ -8,7 +9,10 @@
 namespace lumo {
 
 /// Fills the rounded rectangle and draws the 1 point line inside it.
-void paintPanel(QPainter& painter, const QRectF& rect, double radius, const QColor& fill, const QColor& line);
+void paintPanel(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill, const QColor& line);
+
+/// The surface of a part of a page.
+void paintCard(QPainter& painter, const QRectF& rect);
 
 /// A 2 point ring whose outer edge is `rect`.
 void paintFocusRing(QPainter& painter, const QRectF& rect, double outerRadius);

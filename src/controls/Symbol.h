@@ -1,26 +1,14 @@
-// A one-colour symbol from the program's own drawings.
+// One-colour symbols by name: the system's own where it has them, the program's drawings elsewhere.
 #pragma once
 
 #include <QColor>
-#include <QImage>
 #include <QPainter>
 #include <QString>
 
 namespace lumo {
 
-/// Main thread. The shape is drawn from its source once for each size, and only tinted afterwards.
-class Symbol final {
-public:
-    /// `name` as in symbols/, without the ending. An unknown name is a mistake of ours and paints nothing.
-    explicit Symbol(const QString& name) : m_path(":/symbols/" + name + ".svg") {}
-
-    void paint(QPainter& painter, const QRectF& rect, const QColor& tint);
-
-private:
-    void drawShape(QSize pixels);
-
-    QString m_path;
-    QImage m_shape;
-};
+/// `name` as in symbols/, without the ending; an unknown one is a mistake of ours and paints nothing. Stretches the
+/// square drawing over `rect`. Main thread.
+void paintSymbol(QPainter& painter, const QRectF& rect, const QString& name, const QColor& tint);
 
 }  // namespace lumo

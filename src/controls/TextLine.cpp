@@ -1,9 +1,7 @@
 #include "controls/TextLine.h"
 
-#include <QFontMetricsF>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
@@ -11,34 +9,8 @@
 #include "controls/PlainText.h"
 
 namespace lumo {
-namespace {
-
-/// Letters that stand on a whole row of pixels are sharp at their feet.
-QPointF onWholePixel(const QPainter& painter, QPointF baseline) {
-    const QTransform toPixels = painter.deviceTransform();
-    QPointF pixel = toPixels.map(baseline);
-    pixel.setY(std::round(pixel.y()));
-    return toPixels.inverted().map(pixel);
-}
-
-void drawLetters(QPainter& painter, const QPointF& baseline, const QString& text) {
-#ifdef Q_OS_MACOS
-    painter.drawText(baseline, text);
-#else
-    // FreeType thickens the stems of fonts like Inter: as glyphs on a dark ground, regular would look semibold.
-    QPainterPath outlines;
-    outlines.addText(baseline, painter.font(), text);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(outlines, painter.pen().brush());
-#endif
-}
-
-}  // namespace
-
 TextLine::TextLine(const theme::TextStyle& style, const QColor& color, QWidget* parent)
-    : QWidget(parent), m_color(color), m_linePx(style.linePx) {
-    setFont(theme::font(style));
-}
+    : QWidget(parent), m_lettering(style), m_color(color), m_linePx(style.linePx) {}
 
 bool TextLine::setText(std::string_view text) {
     const QString plain = plainText(text);
@@ -69,22 +41,14 @@ bool TextLine::event(QEvent* event) {
 void TextLine::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(m_color);
-    paintTextLine(painter, rect(), m_shown);
+    m_lettering.paint(painter, rect(), m_shown);
 }
 
 void TextLine::resizeEvent(QResizeEvent*) { m_shown = elided(width()); }
 
-QString TextLine::elided(int width) const { return QFontMetricsF(font()).elidedText(m_text, Qt::ElideRight, width); }
+QString TextLine::elided(int width) const { return m_lettering.elided(m_text, width); }
 
-int TextLine::widthOf(const QString& text) const {
-    return static_cast<int>(std::ceil(QFontMetricsF(font()).horizontalAdvance(text)));
-}
-
-void paintTextLine(QPainter& painter, const QRectF& rect, const QString& text) {
-    const QFontMetricsF metrics(painter.font());
-    const double top = rect.center().y() - (metrics.ascent() + metrics.descent()) / 2.0;
-    drawLetters(painter, onWholePixel(painter, QPointF(rect.left(), top + metrics.ascent())), text);
-}
+int TextLine::widthOf(const QString& text) const { return static_cast<int>(std::ceil(m_lettering.widthOf(text))); }
 
 void showPlainToolTip(QPoint globalPosition, const QString& text, QWidget* widget) {
     if (text.isEmpty()) return QToolTip::hideText();

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "controls/Accessible.h"
-#include "controls/Theme.h"
+#include "controls/Lettering.h"
 
 namespace lumo {
 
@@ -19,7 +19,7 @@ public:
     /// Untrusted UTF-8. True when it differs from what is shown.
     bool setText(std::string_view text);
     [[nodiscard]] const QString& text() const { return m_text; }
-    [[nodiscard]] bool isElided() const { return m_shown != m_text; }
+    [[nodiscard]] bool isElided() const { return typeset(m_shown) != typeset(m_text); }
 
     /// What the whole text takes.
     [[nodiscard]] QSize sizeHint() const override;
@@ -38,14 +38,12 @@ private:
     [[nodiscard]] QString elided(int width) const;
     [[nodiscard]] int widthOf(const QString& text) const;
 
+    Lettering m_lettering;
     QColor m_color;
     int m_linePx;
     QString m_text;
     QString m_shown;
 };
-
-/// Draws text at x = `rect.left()`, its line centred in the height of `rect`.
-void paintTextLine(QPainter& painter, const QRectF& rect, const QString& text);
 
 /// Hover help that takes the text as it is, also when it looks like mark-up. Empty text takes the help away.
 void showPlainToolTip(QPoint globalPosition, const QString& text, QWidget* widget);

@@ -32,7 +32,7 @@ QPalette darkPalette() {
 QFont font(const TextStyle& style) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     font.setFamilies(interfaceFamilies());
-    font.setPixelSize(style.sizePx);
+    font.setPixelSize(static_cast<int>(style.sizePx));
     font.setWeight(style.weight);
     font.setItalic(false);
     font.setHintingPreference(QFont::PreferNoHinting);

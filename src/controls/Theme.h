@@ -8,7 +8,9 @@ class QApplication;
 
 namespace lumo::theme {
 
-[[nodiscard]] constexpr QColor white(int percent) { return {255, 255, 255, (255 * percent + 50) / 100}; }
+/// White at that opacity.
+[[nodiscard]] constexpr QColor whitePerMille(int perMille) { return {255, 255, 255, (255 * perMille + 500) / 1000}; }
+[[nodiscard]] constexpr QColor white(int percent) { return whitePerMille(10 * percent); }
 
 // Surfaces
 inline constexpr QColor kWindow{0x1A, 0x1A, 0x1A};
@@ -16,6 +18,10 @@ inline constexpr QColor kBar{0x17, 0x17, 0x17};
 inline constexpr QColor kCard{0x21, 0x21, 0x23};
 inline constexpr QColor kPopup{0x25, 0x25, 0x28};
 inline constexpr QColor kPopupControl{0x3A, 0x3A, 0x3E};
+inline constexpr QColor kControl{0x2E, 0x2E, 0x31};
+inline constexpr QColor kControlHover{0x38, 0x38, 0x3C};
+inline constexpr QColor kControlPressed{0x28, 0x28, 0x2B};
+inline constexpr QColor kInset{0x15, 0x15, 0x17};
 inline constexpr QColor kRowHover = white(6);
 inline constexpr QColor kRowPressed = white(3);
 
@@ -23,6 +29,11 @@ inline constexpr QColor kRowPressed = white(3);
 inline constexpr QColor kCardLine = white(6);
 inline constexpr QColor kHeaderLine = white(8);
 inline constexpr QColor kStatusLine = white(7);
+inline constexpr QColor kControlLine = white(8);
+inline constexpr QColor kPrimaryLine = white(14);
+inline constexpr QColor kToolsLine = white(7);
+inline constexpr QColor kHeaderSeparator = white(9);
+inline constexpr QColor kStatusSeparator = white(12);
 inline constexpr QColor kPopupLine = white(10);
 inline constexpr QColor kSelectedLine{0x8B, 0x5C, 0xFF, 140};
 
@@ -42,29 +53,48 @@ inline constexpr QColor kText{0xF2, 0xF2, 0xF4};
 inline constexpr QColor kTextRow{0xD8, 0xD8, 0xDC};
 inline constexpr QColor kTextRowPressed{0xC4, 0xC4, 0xC8};
 inline constexpr QColor kTextRowSelected{0xFF, 0xFF, 0xFF};
+inline constexpr QColor kTextButton{0xED, 0xED, 0xF0};
+inline constexpr QColor kTextNav = white(65);
+inline constexpr QColor kTextProfile{0x99, 0x99, 0x99};
+inline constexpr QColor kTextBody{0xB0, 0xB0, 0xB6};
+inline constexpr QColor kTextInfo{0xC9, 0xC9, 0xCE};
+inline constexpr QColor kTextMinor{0x98, 0x98, 0x9E};
+inline constexpr QColor kTextFixed = white(50);
 inline constexpr QColor kTextSection = white(60);
 inline constexpr QColor kTextLink = white(75);
 inline constexpr QColor kTextStatus{0xD2, 0xD2, 0xD6};
 
 struct TextStyle {
-    int sizePx = 12;
+    double sizePx = 12.0;
     int linePx = 16;
     QFont::Weight weight = QFont::Normal;
     double trackingEm = 0.0;
+    bool isTabular = false;  // figures of equal width
 };
 inline constexpr TextStyle kBrandStyle{13, 16, QFont::DemiBold, 0.09};
 inline constexpr TextStyle kSectionStyle{11, 16, QFont::DemiBold, 0.06};
+inline constexpr TextStyle kLayerLabelStyle{11, 13, QFont::DemiBold, 0.06};
+inline constexpr TextStyle kPresetLabelStyle{11, 13, QFont::DemiBold, 0.02};
 inline constexpr TextStyle kRowStyle{12, 16, QFont::Normal};
 inline constexpr TextStyle kRowSelectedStyle{12, 16, QFont::Medium};
+inline constexpr TextStyle kNavStyle{13, 16, QFont::Medium};
+inline constexpr TextStyle kButtonStyle{12, 16, QFont::Medium};
+inline constexpr TextStyle kValueStyle{12, 16, QFont::Medium, 0.0, true};
+inline constexpr TextStyle kUnitStyle{11, 16, QFont::Normal};
+inline constexpr TextStyle kDescriptionStyle{11.5, 16, QFont::Normal};
 inline constexpr TextStyle kLinkStyle{12, 16, QFont::Normal};
 inline constexpr TextStyle kMenuStyle{12, 16, QFont::Medium};
 inline constexpr TextStyle kFineStyle{11, 14, QFont::Normal};
 
-/// The interface font in that style, unhinted so that letters stand where they belong and not on whole pixels.
+/// The interface font in that style, its size cut to whole pixels, unhinted so that letters stand where they belong and
+/// not on whole pixels.
 [[nodiscard]] QFont font(const TextStyle& style);
 
 inline constexpr double kCardRadius = 12.0;
+inline constexpr double kBoxRadius = 10.0;
+inline constexpr double kSwatchRadius = 8.0;
 inline constexpr double kRowRadius = 7.0;
+inline constexpr double kButtonRadius = 7.0;
 inline constexpr double kSmallRadius = 6.0;
 
 inline constexpr int kWindowMargin = 16;
@@ -72,10 +102,17 @@ inline constexpr int kCardGap = 12;
 inline constexpr int kCardPadding = 12;
 inline constexpr int kHeadingToContent = 8;
 
+/// Whether a page that high uses its short measures, as in the smallest window.
+[[nodiscard]] constexpr bool isShort(int pageHeight) { return pageHeight < 330; }
+
 inline constexpr int kHoverInMs = 90;
 inline constexpr int kHoverOutMs = 140;
 inline constexpr int kPressOutMs = 120;
 inline constexpr int kSelectMs = 160;
+inline constexpr int kKeyDownMs = 60;
+inline constexpr int kKeyUpMs = 110;
+inline constexpr int kPageMs = 120;
+inline constexpr int kReducedPageMs = 80;
 
 /// Before the first window: keeps the desktop's own style out of ours. Main thread.
 void apply(QApplication& application);

@@ -14,6 +14,14 @@ bool isConvertible(const Color& color) {
     return !std::isnan(color.red) && !std::isnan(color.green) && !std::isnan(color.blue);
 }
 
+/// In sixths of the circle, from the greatest component; `range` is its distance to the least and not 0.
+double hueInSixths(double red, double green, double blue, double range) {
+    const double greatest = std::max({red, green, blue});
+    if (greatest == red) return (green - blue) / range + (green < blue ? 6.0 : 0.0);
+    if (greatest == green) return (blue - red) / range + 2.0;
+    return (red - green) / range + 4.0;
+}
+
 }  // namespace
 
 Color Color::fromHsb(double hue, double saturation, double brightness) {
@@ -36,6 +44,17 @@ Color Color::fromHsb(double hue, double saturation, double brightness) {
         default:
             return {brightness, low, falling};
     }
+}
+
+Hsb toHsb(const Color& color) {
+    const Color& known = isConvertible(color) ? color : kConversionFailed;
+    const double red = std::clamp(known.red, 0.0, 1.0);
+    const double green = std::clamp(known.green, 0.0, 1.0);
+    const double blue = std::clamp(known.blue, 0.0, 1.0);
+    const double brightness = std::max({red, green, blue});
+    const double range = brightness - std::min({red, green, blue});
+    if (range == 0.0) return {0.0, 0.0, brightness};
+    return {hueInSixths(red, green, blue, range) / 6.0, range / brightness, brightness};
 }
 
 ColorBytes toBytes(const std::optional<Color>& color) {

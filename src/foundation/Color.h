@@ -29,6 +29,17 @@ struct Color {
     [[nodiscard]] static Color fromHsb(double hue, double saturation, double brightness);
 };
 
+/// Hue as a fraction of the full circle, below 1; saturation and brightness 0 to 1.
+struct Hsb {
+    double hue = 0.0;
+    double saturation = 0.0;
+    double brightness = 0.0;
+};
+
+/// The way back from `Color::fromHsb`. Grey has the hue 0, black the saturation 0. Components are clamped to 0 to 1;
+/// a colour that is not a number counts as for `toBytes`.
+[[nodiscard]] Hsb toHsb(const Color& color);
+
 /// The colour everything starts with, which is also the interface's accent.
 inline constexpr ColorBytes kDefaultColorBytes{87, 8, 212};
 inline constexpr Color kDefaultColor{0.3411764705882353, 0.03137254901960784, 0.8313725490196079, 1.0};

@@ -7,14 +7,14 @@
 #include <vector>
 
 #include "controls/Accessible.h"
+#include "controls/FocusGroup.h"
 #include "keyboard/EffectCatalog.h"
 
 namespace lumo {
 
 class EffectRow;
 
-/// Main thread. One stop for Tab: the row that has the focus, else the selected one. Arrow keys, Home and End move
-/// the focus among the rows and choose nothing.
+/// Main thread.
 class EffectList final : public QWidget, public AccessibleSource {
     Q_OBJECT
 
@@ -32,18 +32,16 @@ signals:
     void chosen(std::int64_t number);
 
 protected:
-    bool eventFilter(QObject* row, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void addRow(const EffectEntry& entry);
     [[nodiscard]] int rowsInColumn() const;
-    [[nodiscard]] EffectRow* focusedRow() const;
-    void moveFocus(int index);
-    void placeTabStop();
+    /// What the names of that column take.
+    [[nodiscard]] double widest(int column) const;
 
     std::vector<EffectRow*> m_rows;
+    FocusGroup* m_group;
 };
 
 }  // namespace lumo

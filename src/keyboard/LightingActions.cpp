@@ -2,8 +2,8 @@
 
 #include "app/UIState.h"
 #include "device/VexaProtocol.h"
-#include "keyboard/ColorPalette.h"
 #include "keyboard/KeyboardModel.h"
+#include "keyboard/PresetColors.h"
 
 namespace lumo {
 namespace {

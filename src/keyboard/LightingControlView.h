@@ -12,6 +12,8 @@ namespace lumo {
 
 class Card;
 class EffectList;
+class LevelsCard;
+class PaletteCard;
 
 /// Main thread. Shows what the three objects hold, which outlive it, and holds nothing of its own.
 class LightingControlView final : public QWidget {
@@ -26,16 +28,21 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void connectControls();
     void refresh();
 
     VexaProtocol& m_link;
     UIState& m_state;
+    KeyboardModel& m_keyboard;
     LightingActions m_actions;
     EffectList* m_effects;
     Card* m_effectCard;
+    LevelsCard* m_levels;
+    PaletteCard* m_palette;
     CoalescedRefresh m_refresh;
     Subscription m_linkChanges;
     Subscription m_stateChanges;
+    Subscription m_keyboardChanges;
 };
 
 }  // namespace lumo

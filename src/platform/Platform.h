@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "foundation/RunLoop.h"
+#include "platform/Bundle.h"
 #include "platform/Hid.h"
 
 namespace lumo {
@@ -24,6 +25,8 @@ public:
 
     /// `io` runs what may block beside the reports themselves (closing a node); it outlives the manager.
     [[nodiscard]] virtual std::unique_ptr<HidManager> makeHidManager(IoQueue io) = 0;
+
+    [[nodiscard]] virtual Bundle& bundle() = 0;
 
     /// Any thread: one diagnostic line on the console, flushed at once.
     virtual void print(std::string_view line) = 0;

@@ -42,5 +42,52 @@ TEST(Color, HuesAroundTheCircle) {
     EXPECT_EQ(toBytes(Color::fromHsb(0.4, 0.0, 0.5)), (ColorBytes{127, 127, 127}));
 }
 
+TEST(Color, HueSaturationAndBrightnessOfKnownColors) {
+    const auto expect = [](const Color& color, double hue, double saturation, double brightness) {
+        const Hsb hsb = toHsb(color);
+        EXPECT_NEAR(hsb.hue * 360.0, hue, 1e-9);
+        EXPECT_NEAR(hsb.saturation, saturation, 1e-12);
+        EXPECT_NEAR(hsb.brightness, brightness, 1e-12);
+    };
+    expect({1.0, 0.0, 0.0}, 0.0, 1.0, 1.0);
+    expect({1.0, 1.0, 0.0}, 60.0, 1.0, 1.0);
+    expect({0.0, 0.5, 0.0}, 120.0, 1.0, 0.5);
+    expect({0.5, 1.0, 1.0}, 180.0, 0.5, 1.0);
+    expect({0.0, 0.0, 1.0}, 240.0, 1.0, 1.0);
+    expect({1.0, 0.0, 0.5}, 330.0, 1.0, 1.0);
+    expect({0.5, 0.0, 1.0}, 270.0, 1.0, 1.0);
+}
+
+TEST(Color, GreyHasNoHueAndBlackNoSaturation) {
+    for (const double grey : {0.0, 0.3, 1.0}) {
+        const Hsb hsb = toHsb({grey, grey, grey});
+        EXPECT_EQ(hsb.hue, 0.0);
+        EXPECT_EQ(hsb.saturation, 0.0);
+        EXPECT_EQ(hsb.brightness, grey);
+    }
+}
+
+TEST(Color, EveryHueSurvivesTheWayThroughTheComponents) {
+    for (int degree = 0; degree < 360; ++degree) {
+        for (const double saturation : {0.01, 0.5, 1.0}) {
+            const Hsb hsb = toHsb(Color::fromHsb(degree / 360.0, saturation, 0.8));
+            EXPECT_NEAR(hsb.hue, degree / 360.0, 1e-9);
+            EXPECT_NEAR(hsb.saturation, saturation, 1e-9);
+            EXPECT_NEAR(hsb.brightness, 0.8, 1e-9);
+        }
+    }
+}
+
+TEST(Color, WhatIsNoColorStillHasAHueToShow) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    const Hsb clamped = toHsb({infinity, -3.0, 0.0});
+    EXPECT_EQ(clamped.hue, 0.0);
+    EXPECT_EQ(clamped.saturation, 1.0);
+    EXPECT_EQ(clamped.brightness, 1.0);
+    const Hsb unknown = toHsb({std::numeric_limits<double>::quiet_NaN(), 0.0, 0.0});
+    EXPECT_NEAR(unknown.hue * 360.0, 263.25, 1e-9);
+    EXPECT_NEAR(unknown.brightness, 0.83, 1e-12);
+}
+
 }  // namespace
 }  // namespace lumo

@@ -1,10 +1,12 @@
 // The window as assistive technology sees it.
 #include <gmock/gmock.h>
 
-#include "controls/Card.h"
+#include <QTest>
+
 #include "gui/AccessibleTree.h"
 #include "gui/WindowFixture.h"
 #include "keyboard/EffectRow.h"
+#include "keyboard/KeyboardCanvas.h"
 
 namespace lumo {
 namespace {
@@ -68,29 +70,136 @@ TEST_F(Accessibility, AnItemStandsWhereItsRowIs) {
     EXPECT_EQ(list().child(4)->rect(), QRect(raindrops.mapToGlobal(QPoint()), raindrops.size()));
 }
 
-TEST_F(Accessibility, TheCardIsAGroupLabelledByItsHeading) {
-    const auto groups = accessibles(*view, QAccessible::Grouping);
-    ASSERT_EQ(groups.size(), 1U);
-    EXPECT_EQ(groups.front()->object(), &only<Card>());
-    const auto labels = groups.front()->relations(QAccessible::Label);
-    ASSERT_EQ(labels.size(), 1);
-    EXPECT_EQ(nameOf(*labels.front().first), "LIGHTING EFFECT");
-    EXPECT_TRUE(groups.front()->relations(QAccessible::Controlled).isEmpty());
+TEST_F(Accessibility, EverySectionIsAGroupLabelledByItsHeading) {
+    std::vector<QString> headings;
+    for (const QAccessibleInterface* const group : accessibles(*view, QAccessible::Grouping)) {
+        const auto labels = group->relations(QAccessible::Label);
+        if (labels.size() == 1) headings.push_back(nameOf(*labels.front().first));
+        EXPECT_TRUE(group->relations(QAccessible::Controlled).isEmpty());
+    }
+    EXPECT_THAT(headings, ElementsAre("LAYER:", "Select:", "LIGHTING EFFECT", "BRIGHTNESS", "SPEED", "COLOR SPECTRUM",
+                                      "COLOR PALETTE"));
 }
 
 TEST_F(Accessibility, EveryTextIsALeafNamedAsItReads) {
     std::vector<QString> names;
     for (const QAccessibleInterface* const text : accessibles(*view, QAccessible::StaticText)) {
         EXPECT_EQ(text->childCount(), 0);
-        names.push_back(nameOf(*text));
+        if (!text->state().invisible) names.push_back(nameOf(*text));
     }
-    EXPECT_THAT(names, ElementsAre("VEXA LUMO 65", "Simulated / Disconnected", "LIGHTING EFFECT", "Ready"));
+    EXPECT_THAT(names,
+                ElementsAre("VEXA LUMO 65", "Simulated / Disconnected", "LAYER:", "Select:",
+                            "Click any key on the keyboard to customize lighting or remap function.", "LIGHTING EFFECT",
+                            "BRIGHTNESS", "100", "%", "SPEED", "Level 2", "COLOR SPECTRUM", "COLOR PALETTE",
+                            "Tip: In Per-Key RGB mode, clicking any switch on the keyboard immediately paints it with "
+                            "the selected color.",
+                            "Ready", "Protocol: SinoWealth K916 (BYCOMBO4)", "VID: 0x258A | PID: 0x010C"));
 }
 
-TEST_F(Accessibility, TheStatusMessageIsTheLeafOfTheStatusBar) {
+TEST_F(Accessibility, NothingThatCanBeFocusedIsWithoutAName) {
+    for (QAccessibleInterface* const element : test::accessibleTree(*view)) {
+        if (!element->state().focusable) continue;
+        EXPECT_FALSE(nameOf(*element).isEmpty()) << element->role();
+    }
+}
+
+TEST_F(Accessibility, The67KeysAreChildrenOfOneElement) {
+    QAccessibleInterface& keyboard = *QAccessible::queryAccessibleInterface(&only<KeyboardCanvas>());
+    ASSERT_EQ(keyboard.childCount(), 67);
+    EXPECT_EQ(nameOf(*keyboard.child(0)), "Esc");
+    EXPECT_EQ(nameOf(*keyboard.child(66)), "RCtrl");
+    for (int i = 0; i < 67; ++i) {
+        QAccessibleInterface* const key = keyboard.child(i);
+        ASSERT_EQ(key->parent(), &keyboard);
+        EXPECT_EQ(keyboard.indexOfChild(key), i);
+        EXPECT_FALSE(key->state().selected);
+        EXPECT_TRUE(key->state().selectable);
+        EXPECT_FALSE(key->state().invisible);
+    }
+    EXPECT_EQ(keyboard.child(67), nullptr);
+    EXPECT_EQ(keyboard.child(-1), nullptr);
+}
+
+TEST_F(Accessibility, AKeyStandsWhereItIsDrawn) {
+    auto& canvas = only<KeyboardCanvas>();
+    QAccessibleInterface& keyboard = *QAccessible::queryAccessibleInterface(&canvas);
+    const QRect onScreen = QRect(19, 29, 34, 34).translated(canvas.mapToGlobal(QPoint()));
+    EXPECT_EQ(keyboard.child(0)->rect(), onScreen);
+    EXPECT_EQ(keyboard.childAt(onScreen.center().x(), onScreen.center().y()), keyboard.child(0));
+}
+
+TEST_F(Accessibility, ASelectedKeyIsSelectedAndABoundOneSaysSo) {
+    QAccessibleInterface& element = *QAccessible::queryAccessibleInterface(&only<KeyboardCanvas>());
+    keyboard().selectKey("K32", false);
+    std::vector<KeyCap> keys = keyboard().keys.get();
+    keys[31].remapLabel = "Mute";
+    keyboard().keys.set(keys);
+    time.settle();
+    EXPECT_TRUE(element.child(31)->state().selected);
+    EXPECT_FALSE(element.child(30)->state().selected);
+    EXPECT_EQ(nameOf(*element.child(31)), "A, bound to Mute");
+}
+
+TEST_F(Accessibility, PressingAKeySelectsIt) {
+    QAccessibleInterface& element = *QAccessible::queryAccessibleInterface(&only<KeyboardCanvas>());
+    element.child(3)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_THAT(keyboard().selectedKeyIds.get(), ElementsAre("K4"));
+}
+
+TEST_F(Accessibility, TheFocusOfTheKeyboardIsItsCurrentKey) {
+    auto& canvas = only<KeyboardCanvas>();
+    QAccessibleInterface& element = *QAccessible::queryAccessibleInterface(&canvas);
+    view->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
+    element.child(7)->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_TRUE(canvas.hasFocus());
+    EXPECT_EQ(element.focusChild(), element.child(7));
+    EXPECT_TRUE(element.child(7)->state().focused);
+}
+
+TEST_F(Accessibility, ExactlyOneProfilePageAndLayerIsChosen) {
+    std::vector<QString> checked;
+    for (const QAccessibleInterface* const radio : accessibles(*view, QAccessible::RadioButton)) {
+        if (radio->state().checked) checked.push_back(nameOf(*radio));
+    }
+    EXPECT_THAT(checked, ElementsAre("Profile 1", "Default"));
+    std::vector<QString> selected;
+    for (const QAccessibleInterface* const tab : accessibles(*view, QAccessible::PageTab)) {
+        if (tab->state().selected) selected.push_back(nameOf(*tab));
+    }
+    EXPECT_THAT(selected, ElementsAre("Lighting Effect"));
+}
+
+TEST_F(Accessibility, SlidersAreNamedByTheirHeadingAndTellTheirRange) {
+    const auto sliders = accessibles(*view, QAccessible::Slider);
+    ASSERT_EQ(sliders.size(), 2U);
+    EXPECT_EQ(nameOf(*sliders[0]), "BRIGHTNESS");
+    EXPECT_EQ(nameOf(*sliders[1]), "SPEED");
+    QAccessibleValueInterface& value = *sliders[1]->valueInterface();
+    EXPECT_EQ(value.minimumValue().toDouble(), 0.0);
+    EXPECT_EQ(value.maximumValue().toDouble(), 4.0);
+    EXPECT_EQ(value.currentValue().toDouble(), 2.0);
+}
+
+TEST_F(Accessibility, TheSwatchesShareOneParentAndNameTheirColor) {
+    QAccessibleInterface* const first = accessible(*view, QAccessible::PushButton, "Violet");
+    QAccessibleInterface* const last = accessible(*view, QAccessible::PushButton, "White");
+    ASSERT_NE(first, nullptr);
+    ASSERT_NE(last, nullptr);
+    EXPECT_EQ(first->parent(), last->parent());
+    EXPECT_TRUE(first->state().selected);
+    EXPECT_FALSE(last->state().selected);
+}
+
+TEST_F(Accessibility, AButtonWhoseTextChangesIsRenamed) {
+    keyboard().selectPresetGroup("WASD");
+    time.settle();
+    EXPECT_NE(accessible(*view, QAccessible::PushButton, "Paint Selected (4)"), nullptr);
+}
+
+TEST_F(Accessibility, TheStatusMessageIsTheFirstLeafOfTheStatusBar) {
     const auto bars = accessibles(*view, QAccessible::StatusBar);
     ASSERT_EQ(bars.size(), 1U);
-    ASSERT_EQ(bars.front()->childCount(), 1);
     EXPECT_EQ(nameOf(*bars.front()->child(0)), "Ready");
 }
 

@@ -5,12 +5,14 @@
 #include <QTest>
 
 #include "app/BrandButton.h"
+#include "controls/FocusRing.h"
 #include "gui/WindowFixture.h"
 #include "keyboard/EffectRow.h"
 
 namespace lumo {
 namespace {
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 
 class Focus : public test::WindowFixture {
@@ -33,14 +35,76 @@ TEST_F(Focus, TheFirstTabGoesToTheHexagon) {
     EXPECT_EQ(QApplication::focusWidget(), &only<BrandButton>());
 }
 
-TEST_F(Focus, TheListIsOneStopAtItsSelectedRow) {
-    press(Qt::Key_Tab);
-    press(Qt::Key_Tab);
-    EXPECT_EQ(focusedName(), "Flash_away (Stream)");
+TEST_F(Focus, TabReachesEveryControlInItsOrder) {
+    std::vector<QString> stops;
+    for (int i = 0; i < 14; ++i) {
+        press(Qt::Key_Tab);
+        stops.push_back(QApplication::focusWidget()->accessibleName());
+    }
+    EXPECT_THAT(stops, ElementsAre("Vexa Lumo 65 menu", "Profile 1", "Lighting Effect", "Keyboard", "Default", "WASD",
+                                   "Flash_away (Stream)", "BRIGHTNESS", "SPEED", "COLOR SPECTRUM", "Violet",
+                                   "Paint Selected (0)", "Fill All", "Rainbow Preset"));
     press(Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), &only<BrandButton>());
-    press(Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(focusedName(), "Flash_away (Stream)");
+}
+
+TEST_F(Focus, TabGoesBackTheSameWay) {
+    press(Qt::Key_Tab);
+    for (const QString name : {"Rainbow Preset", "Fill All", "Paint Selected (0)", "Violet", "COLOR SPECTRUM"}) {
+        press(Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_EQ(QApplication::focusWidget()->accessibleName(), name);
+    }
+}
+
+TEST_F(Focus, ArrowsMoveInsideAGroupAndChooseNothing) {
+    control("Profile 1").setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Right);
+    EXPECT_TRUE(control("Profile 2").hasFocus());
+    press(Qt::Key_Left);
+    press(Qt::Key_Left);
+    EXPECT_TRUE(control("Profile 1").hasFocus());
+    control("Lighting Effect").setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Right);
+    EXPECT_TRUE(control("Macro Manager").hasFocus());
+    press(Qt::Key_End);
+    EXPECT_TRUE(control("Device Settings").hasFocus());
+    time.settle();
+    EXPECT_EQ(state().currentTab.get(), NavTab::lighting);
+    press(Qt::Key_Return);
+    EXPECT_EQ(state().currentTab.get(), NavTab::settings);
+}
+
+TEST_F(Focus, PresetsAndSwatchesAreGrids) {
+    control("WASD").setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Down);
+    EXPECT_TRUE(control("All").hasFocus());
+    press(Qt::Key_Right);
+    press(Qt::Key_Up);
+    EXPECT_TRUE(control("Arrows").hasFocus());
+    control("Violet").setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Down);
+    EXPECT_TRUE(control("Yellow").hasFocus());
+    press(Qt::Key_Right);
+    EXPECT_TRUE(control("Orange").hasFocus());
+}
+
+TEST_F(Focus, TheRingStandsAroundTheControlThatHasTheKeyboard) {
+    QTest::qWait(0);
+    EXPECT_FALSE(only<FocusRing>().isVisible());
+    control("Fill All").setFocus(Qt::TabFocusReason);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return only<FocusRing>().isVisible(); }));
+    EXPECT_EQ(rectOf(only<FocusRing>()), rectOf(control("Fill All")).adjusted(-4, -4, 4, 4));
+    view->resize(900, 680);
+    ASSERT_TRUE(QTest::qWaitFor(
+        [this] { return rectOf(only<FocusRing>()) == rectOf(control("Fill All")).adjusted(-4, -4, 4, 4); }));
+    QTest::mouseClick(&control("Fill All"), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !only<FocusRing>().isVisible(); }));
+}
+
+TEST_F(Focus, TheRingLetsThePointerThrough) {
+    control("Fill All").setFocus(Qt::TabFocusReason);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return only<FocusRing>().isVisible(); }));
+    EXPECT_EQ(view->childAt(rectOf(control("Fill All")).center()), &control("Fill All"));
 }
 
 TEST_F(Focus, UpAndDownGoThroughTheListAsItIsOrdered) {
@@ -93,8 +157,8 @@ TEST_F(Focus, TheListIsLeftFromAnyRowAndEnteredAgainAtTheSelectedOne) {
     enterList();
     press(Qt::Key_Down);
     press(Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), &only<BrandButton>());
-    press(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "BRIGHTNESS");
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(focusedName(), "Flash_away (Stream)");
 }
 
@@ -117,12 +181,14 @@ TEST_F(Focus, TheRingIsShownForTheKeyboardOnly) {
     EXPECT_FALSE(row("Rainbow_wheel").showsRing());
 }
 
-TEST_F(Focus, TheRingIsPaintedInsideTheRow) {
+TEST_F(Focus, TheRingOfARowIsPaintedInsideIt) {
     enterList();
-    const QImage picture = row("Flash_away (Stream)").grab().toImage();
-    EXPECT_EQ(picture.pixelColor(200, 0), QColor(0xA8, 0x88, 0xFF));
-    EXPECT_EQ(picture.pixelColor(200, 1), QColor(0xA8, 0x88, 0xFF));
-    EXPECT_NE(picture.pixelColor(200, 2), QColor(0xA8, 0x88, 0xFF));
+    const QRect row = rectOf(this->row("Flash_away (Stream)"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return rectOf(only<FocusRing>()) == row && only<FocusRing>().isVisible(); }));
+    const QImage picture = view->grab(row).toImage();
+    EXPECT_EQ(picture.pixelColor(100, 0), QColor(0xA8, 0x88, 0xFF));
+    EXPECT_EQ(picture.pixelColor(100, 1), QColor(0xA8, 0x88, 0xFF));
+    EXPECT_NE(picture.pixelColor(100, 2), QColor(0xA8, 0x88, 0xFF));
 }
 
 }  // namespace

@@ -55,6 +55,7 @@ public:
     std::unique_ptr<HidManager> makeHidManager(IoQueue) override {
         return std::make_unique<test::OneDeviceManager>(std::make_shared<HangingDevice>(mainQueue(), m_hangsAt));
     }
+    Bundle& bundle() override { return m_native.bundle(); }
     void print(std::string_view) override {}
 
 private:

@@ -36,6 +36,7 @@ private:
 class Refresh : public test::WindowFixture {
 protected:
     void SetUp() override {
+        link().activeModeId.set(1);  // the keyboard's picture stands still
         show();
         paintStatus();
     }
@@ -68,7 +69,8 @@ TEST_F(Refresh, AnnouncementsThatChangeNothingPaintNothing) {
         link().isConnected.set(false);
         link().connectionType.set("Simulated / Disconnected");
         state().selectedColor.set(state().selectedColor.get());
-        state().speedLevel.set(3.0);
+        state().speedLevel.set(state().speedLevel.get());
+        keyboard().activeLayer.set(0);
         time.settle();
     }
     paintStatus();
@@ -90,7 +92,7 @@ TEST_F(Refresh, AnEffectRepaintsOnlyTheRowsThatChange) {
     for (const std::int64_t number : {8, 9, 5}) link().activeModeId.set(number);
     time.settle();
     ASSERT_TRUE(QTest::qWaitFor([this] { return watch.hasSeen(row("Raindrops")); }, 30000));
-    EXPECT_TRUE(watch.hasSeen(row("Flash_away (Stream)")));
+    EXPECT_TRUE(watch.hasSeen(row("Fixed_on (Static)")));
     EXPECT_FALSE(watch.hasSeen(row("Stars_twinkle")));
     EXPECT_FALSE(watch.hasSeen(row("Shadow_disappear")));
     EXPECT_FALSE(watch.hasSeen(statusLine()));
@@ -98,7 +100,7 @@ TEST_F(Refresh, AnEffectRepaintsOnlyTheRowsThatChange) {
 
 TEST_F(Refresh, TheSelectionFadesInUntilItsOutlineHasItsFullColor) {
     const auto outline = [this] {
-        const QPoint onUpperEdge = rectOf(row("Raindrops")).topLeft() + QPoint(200, 0);
+        const QPoint onUpperEdge = rectOf(row("Raindrops")).topLeft() + QPoint(100, 0);
         return view->grab().toImage().pixelColor(onUpperEdge);
     };
     link().activeModeId.set(5);

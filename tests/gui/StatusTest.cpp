@@ -1,6 +1,7 @@
 // The message in the status bar.
 #include <gmock/gmock.h>
 
+#include "app/StatusBar.h"
 #include "controls/TextLine.h"
 #include "gui/WindowFixture.h"
 
@@ -34,7 +35,8 @@ TEST_F(Status, AMessageThatIsTooLongIsElided) {
     time.settle();
     EXPECT_TRUE(statusLine().isElided());
     EXPECT_EQ(rectOf(statusLine()).left(), 16);
-    EXPECT_EQ(rectOf(statusLine()).right() + 1, 960 - 16);
+    const TextLine& fixed = *only<StatusBar>().findChildren<TextLine*>().at(1);
+    EXPECT_EQ(rectOf(statusLine()).right() + 1, rectOf(fixed).left() - 14 - 1 - 14);
 }
 
 TEST_F(Status, AnAmpersandIsALetter) {

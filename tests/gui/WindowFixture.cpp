@@ -27,10 +27,12 @@ std::vector<EffectRow*> WindowFixture::rows() const {
     return {found.begin(), found.end()};
 }
 
-EffectRow& WindowFixture::row(const QString& name) const {
-    const auto all = rows();
-    const auto found = std::ranges::find_if(all, [&name](const EffectRow* row) { return row->text() == name; });
-    if (found == all.end()) throw std::invalid_argument("no row " + name.toStdString());
+EffectRow& WindowFixture::row(const QString& name) const { return dynamic_cast<EffectRow&>(control(name)); }
+
+PushControl& WindowFixture::control(const QString& name) const {
+    const auto all = view->findChildren<PushControl*>();
+    const auto found = std::ranges::find_if(all, [&name](const PushControl* each) { return each->text() == name; });
+    if (found == all.end()) throw std::invalid_argument("no control " + name.toStdString());
     return **found;
 }
 

@@ -12,6 +12,7 @@
 namespace lumo {
 
 class EffectRow;
+class PushControl;
 class TextLine;
 
 }  // namespace lumo
@@ -33,6 +34,9 @@ protected:
     [[nodiscard]] std::vector<EffectRow*> rows() const;
     [[nodiscard]] EffectRow& row(const QString& name) const;
     [[nodiscard]] std::vector<QString> selectedNames() const;
+
+    /// The button of that text.
+    [[nodiscard]] PushControl& control(const QString& name) const;
 
     template <typename Widget>
     [[nodiscard]] Widget& only() const {

@@ -6,7 +6,9 @@ target_sources(lumo_platform PRIVATE
     platform/linux/HidrawInterface.cpp
     platform/linux/IoThread.cpp
     platform/linux/LinuxHidManager.cpp
+    platform/linux/NativeBundle.cpp
     platform/linux/NativeHid.cpp
+    platform/linux/PrefixBundle.cpp
     platform/linux/ReportDescriptor.cpp
     platform/linux/Sysfs.cpp
 )

@@ -3,6 +3,9 @@ set(lumo_macos ${CMAKE_CURRENT_LIST_DIR})
 set(lumo_objective_c
     ${lumo_macos}/Activation.mm
     ${lumo_macos}/MainMenu.mm
+    ${lumo_macos}/NativeBundle.mm
+    ${lumo_macos}/ReducedMotion.mm
+    ${lumo_macos}/SystemSymbol.mm
     ${lumo_macos}/WindowChrome.mm
 )
 target_sources(lumo_platform PRIVATE
@@ -14,4 +17,5 @@ target_sources(lumo_platform PRIVATE
 )
 set_source_files_properties(${lumo_objective_c} PROPERTIES COMPILE_OPTIONS -fobjc-arc)
 target_link_libraries(lumo_platform PUBLIC
-    "-framework AppKit" "-framework CoreFoundation" "-framework Foundation" "-framework IOKit" objc)
+    "-framework AppKit" "-framework CoreFoundation" "-framework CoreGraphics" "-framework Foundation"
+    "-framework IOKit" objc)

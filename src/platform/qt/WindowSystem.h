@@ -1,7 +1,10 @@
-// What differs between the desktops around one window: dock, title bar, menu, coming to the front.
+// What differs between the desktops around one window: dock, title bar, menu, motion, coming to the front.
 #pragma once
 
 class QAction;
+class QImage;
+class QSize;
+class QString;
 class QWidget;
 
 /// Main thread, after the application object exists.
@@ -19,7 +22,17 @@ void dressWindow(QWidget& window);
 /// Where the system shows the menu: one menu with the one item. Elsewhere: its key equivalent works in the window.
 void installMenu(QWidget& window, QAction& quit);
 
+/// Asks the desktop about motion and listens to it from then on; waits for nothing.
+void followMotionPreference();
+
+/// The user's wish for less motion, as it stands; false as long as the desktop has not answered.
+[[nodiscard]] bool prefersReducedMotion();
+
 /// In front of other applications, as far as the system lets a program decide that.
 void activateApplication(QWidget& window);
+
+/// The shape of the system's own symbol of that name, centred and as large as fits, premultiplied; its colour says
+/// nothing. Null where the system has none.
+[[nodiscard]] QImage systemSymbol(const QString& name, QSize pixels);
 
 }  // namespace lumo::window_system

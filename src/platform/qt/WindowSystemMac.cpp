@@ -1,9 +1,12 @@
 // macOS: the calls into AppKit, and the moments for them.
 #include <QEvent>
+#include <QImage>
 #include <QWidget>
 
 #include "platform/macos/Activation.h"
 #include "platform/macos/MainMenu.h"
+#include "platform/macos/ReducedMotion.h"
+#include "platform/macos/SystemSymbol.h"
 #include "platform/macos/WindowChrome.h"
 #include "platform/qt/WindowSystem.h"
 
@@ -47,6 +50,18 @@ void dressWindow(QWidget& window) {
 
 void installMenu(QWidget&, QAction&) { lumo::installMainMenu(); }
 
+void followMotionPreference() {}  // AppKit knows it at any time
+
+bool prefersReducedMotion() { return lumo::prefersReducedMotion(); }
+
 void activateApplication(QWidget&) { lumo::activateIgnoringOtherApplications(); }
+
+QImage systemSymbol(const QString& name, QSize pixels) {
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    const SymbolPixels target{image.bits(), static_cast<std::size_t>(image.width()),
+                              static_cast<std::size_t>(image.height()), static_cast<std::size_t>(image.bytesPerLine())};
+    return lumo::drawSystemSymbol(name.toStdString(), target) ? image : QImage();
+}
 
 }  // namespace lumo::window_system

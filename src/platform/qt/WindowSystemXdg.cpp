@@ -1,6 +1,9 @@
 // Desktops that decorate windows themselves: X11 and Wayland.
+#include <QCoreApplication>
+#include <QImage>
 #include <QWidget>
 
+#include "platform/qt/MotionPreference.h"
 #include "platform/qt/WindowSystem.h"
 
 namespace lumo::window_system {
@@ -13,9 +16,17 @@ void dressWindow(QWidget&) {}
 
 void installMenu(QWidget& window, QAction& quit) { window.addAction(&quit); }
 
+void followMotionPreference() {
+    if (MotionPreference::hasSessionBus()) new MotionPreference(&QDBusConnection::sessionBus, qApp);
+}
+
+bool prefersReducedMotion() { return MotionPreference::currentIsReduced(); }
+
 void activateApplication(QWidget& window) {
     window.raise();
     window.activateWindow();
 }
+
+QImage systemSymbol(const QString&, QSize) { return {}; }
 
 }  // namespace lumo::window_system

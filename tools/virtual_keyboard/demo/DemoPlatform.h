@@ -17,6 +17,7 @@ public:
         return m_native.makeIoQueue(label);
     }
     std::unique_ptr<HidManager> makeHidManager(IoQueue io) override;
+    Bundle& bundle() override { return m_native.bundle(); }
     void print(std::string_view line) override { m_native.print(line); }
 
     /// Belongs to the I/O queue once the manager is made.

@@ -1,7 +1,7 @@
-// AppKit: the application, its menu and its window.
+// AppKit: the application, its menu and its window, symbols drawn into memory, and what the user wishes of all of them.
 #pragma once
 
-#include <CoreGraphics/CGGeometry.h>
+#include <CoreGraphics/CoreGraphics.h>
 #include <Foundation/Foundation.h>
 
 NS_ASSUME_NONNULL_BEGIN
@@ -39,6 +39,21 @@ extern "C" NSApplication* _Null_unspecified NSApp;
 + (NSColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha API_AVAILABLE(macos(10.9));
 @end
 
+@interface NSImage : NSObject
++ (nullable instancetype)imageWithSystemSymbolName:(NSString*)name
+                          accessibilityDescription:(nullable NSString*)description API_AVAILABLE(macos(11.0));
+@property NSSize size;
+- (void)drawInRect:(NSRect)rect API_AVAILABLE(macos(10.9));
+@end
+
+@interface NSGraphicsContext : NSObject
++ (NSGraphicsContext*)graphicsContextWithCGContext:(CGContextRef)graphicsPort
+                                           flipped:(BOOL)initialFlippedState API_AVAILABLE(macos(10.10));
+@property(class, nullable, strong) NSGraphicsContext* currentContext;
++ (void)saveGraphicsState;
++ (void)restoreGraphicsState;
+@end
+
 typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
     NSWindowStyleMaskTitled = 1 << 0,
     NSWindowStyleMaskClosable = 1 << 1,
@@ -66,6 +81,14 @@ typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) {
 
 @interface NSView : NSObject
 @property(nullable, readonly, unsafe_unretained) NSWindow* window;
+@end
+
+@interface NSWorkspace : NSObject
+@property(class, readonly, strong) NSWorkspace* sharedWorkspace;
+@end
+
+@interface NSWorkspace (NSWorkspaceAccessibilityDisplay)
+@property(readonly) BOOL accessibilityDisplayShouldReduceMotion API_AVAILABLE(macos(10.12));
 @end
 
 NS_ASSUME_NONNULL_END

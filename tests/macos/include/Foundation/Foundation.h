@@ -1,4 +1,4 @@
-// Foundation, as far as a menu and a window need it.
+// Foundation, as far as a menu, a window, a symbol and the bundle need it.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -13,6 +13,7 @@
 typedef long NSInteger;
 typedef unsigned long NSUInteger;
 typedef CGRect NSRect;
+typedef CGSize NSSize;
 
 NS_ASSUME_NONNULL_BEGIN
 
@@ -22,12 +23,23 @@ __attribute__((objc_root_class))
 - (instancetype)init;
 @end
 
+typedef NSUInteger NSStringEncoding;
+enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
+
 @interface NSString : NSObject
+- (nullable instancetype)initWithBytes:(const void*)bytes length:(NSUInteger)len encoding:(NSStringEncoding)encoding;
 @property(readonly) NSUInteger length;
+@property(nullable, readonly) const char* UTF8String __attribute__((objc_returns_inner_pointer));
 @end
 
 // The compiler lays string literals out as objects of this class.
 @interface NSConstantString : NSString
+@end
+
+@interface NSBundle : NSObject
+@property(class, readonly, strong) NSBundle* mainBundle;
+@property(nullable, readonly, copy) NSString* resourcePath;
+- (nullable NSString*)pathForResource:(nullable NSString*)name ofType:(nullable NSString*)ext;
 @end
 
 NS_ASSUME_NONNULL_END

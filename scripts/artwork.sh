@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# Draws the pictures of vexa_lumo_macos/assets anew from the drawings in its svg/. For whoever changes a drawing.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+# shellcheck disable=SC2034  # program.sh builds there
+runDirectory=build/artwork
+for piece in say system program; do
+    # shellcheck source=/dev/null
+    . "scripts/$piece.sh"
+done
+assets=vexa_lumo_macos/assets
+
+buildProgram lumo-artwork
+tool=$(programPath lumo-artwork)
+say "Drawing"
+"$tool" "$assets"
+note "$(find "$assets" -name '*.png' | wc -l | tr -d ' ') pictures below $assets."

@@ -1,0 +1,33 @@
+// The button of one page.
+#pragma once
+
+#include <functional>
+
+#include "app/NavTab.h"
+#include "controls/PushControl.h"
+
+namespace lumo {
+
+/// Main thread. Looks its picture up by itself; without the artwork it draws the page's symbol.
+class NaviPillButton final : public PushControl {
+    Q_OBJECT
+
+public:
+    NaviPillButton(NavTab tab, bool isSelected, std::function<void()> action, QWidget* parent);
+
+    [[nodiscard]] NavTab tab() const { return m_tab; }
+
+protected:
+    [[nodiscard]] RingShape ringShape() const override;
+    [[nodiscard]] QString toolTipText() const override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] QString shownTitle() const;
+    void paintSurface(QPainter& painter) const;
+    void paintIcon(QPainter& painter, const QRectF& frame) const;
+
+    NavTab m_tab;
+};
+
+}  // namespace lumo

@@ -1,0 +1,64 @@
+#include "controls/Columns.h"
+
+#include <cmath>
+
+namespace lumo {
+namespace {
+
+constexpr double kUndecided = -1.0;
+
+struct Rest {
+    double room = 0.0;
+    double shares = 0.0;
+    [[nodiscard]] double widthOf(const Column& column) const { return room * column.share / shares; }
+};
+
+/// What the columns without a width yet have to divide among them.
+Rest restOf(std::span<const Column> columns, const std::vector<double>& widths, double room) {
+    Rest rest{room, 0.0};
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (widths[i] == kUndecided) {
+            rest.shares += columns[i].share;
+        } else {
+            rest.room -= widths[i];
+        }
+    }
+    return rest;
+}
+
+/// Gives the columns that would get too little their least; true when there was another one.
+bool giveLeast(std::span<const Column> columns, std::vector<double>& widths, const Rest& rest) {
+    bool isAnother = false;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (widths[i] != kUndecided || rest.widthOf(columns[i]) >= columns[i].least) continue;
+        widths[i] = columns[i].least;
+        isAnother = true;
+    }
+    return isAnother;
+}
+
+std::vector<double> widthsOf(std::span<const Column> columns, double room) {
+    std::vector<double> widths(columns.size(), kUndecided);
+    while (giveLeast(columns, widths, restOf(columns, widths, room))) continue;
+    const Rest rest = restOf(columns, widths, room);
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        if (widths[i] == kUndecided) widths[i] = rest.widthOf(columns[i]);
+    }
+    return widths;
+}
+
+}  // namespace
+
+std::vector<Extent> divide(int width, int gap, std::span<const Column> columns) {
+    const double room = width - gap * (static_cast<double>(columns.size()) - 1.0);
+    std::vector<Extent> extents;
+    double begin = 0.0;
+    for (const double columnWidth : widthsOf(columns, room)) {
+        const int left = static_cast<int>(std::lround(begin));
+        extents.push_back({left, static_cast<int>(std::lround(begin + columnWidth)) - left});
+        begin += columnWidth + gap;
+    }
+    return extents;
+}
+
+}  // namespace lumo

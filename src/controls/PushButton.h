@@ -1,0 +1,74 @@
+// A button with a text and perhaps a symbol, in one of the looks of our buttons and pills.
+#pragma once
+
+#include <QColor>
+
+#include "controls/PushControl.h"
+
+namespace lumo {
+
+/// A colour at rest, below the pointer and pressed.
+struct PressColors {
+    QColor rest;
+    QColor hover;
+    QColor pressed;
+
+    /// `hover` and `press` are shares from 0 to 1.
+    [[nodiscard]] QColor at(double hoverShare, double pressShare) const {
+        return mix(mix(rest, hover, hoverShare), pressed, pressShare);
+    }
+};
+
+struct ButtonSkin {
+    PressColors fill;
+    PressColors text;
+    QColor line;
+};
+
+struct ButtonLook {
+    ButtonSkin skin;
+    ButtonSkin selected;
+};
+
+namespace look {
+
+extern const ButtonLook kPlain;
+extern const ButtonLook kPrimary;
+extern const ButtonLook kLayer;
+extern const ButtonLook kProfile;
+
+}  // namespace look
+
+/// Main thread. The text is centred together with the symbol, and elided on the right where it does not fit.
+class PushButton : public PushControl {
+    Q_OBJECT
+
+public:
+    /// The look outlives the button. `role`: RadioButton where one of several is the chosen one.
+    PushButton(const QString& text, const ButtonLook& look, QWidget* parent,
+               QAccessible::Role role = QAccessible::PushButton);
+
+    /// In the text's colour, 16 points wide.
+    void setSymbol(const QString& name);
+    /// For a text that changes; it is the name, too.
+    void setLabel(const QString& text);
+
+    /// With that much room left and right of the text.
+    [[nodiscard]] int widthWith(int padding) const;
+
+protected:
+    [[nodiscard]] RingShape ringShape() const override;
+    [[nodiscard]] QString toolTipText() const override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] double symbolRoom() const;
+    [[nodiscard]] QString shownText() const;
+    [[nodiscard]] QColor blended(const PressColors& plain, const PressColors& selected) const;
+    void paintLabel(QPainter& painter) const;
+
+    const ButtonLook& m_look;
+    QString m_symbol;
+};
+
+}  // namespace lumo

@@ -1,0 +1,59 @@
+#include "controls/Section.h"
+
+#include <algorithm>
+
+#include "controls/TextLine.h"
+#include "controls/Theme.h"
+
+namespace lumo {
+namespace {
+
+constexpr int kContentTop = Section::kHeadingHeight + theme::kHeadingToContent;
+
+/// A group that its heading labels.
+class AccessibleSection final : public QAccessibleWidget {
+public:
+    AccessibleSection(Section& section, TextLine& heading)
+        : QAccessibleWidget(&section, QAccessible::Grouping), m_heading(heading) {}
+
+    [[nodiscard]] QVector<std::pair<QAccessibleInterface*, QAccessible::Relation>> relations(
+        QAccessible::Relation match) const override {
+        auto found = QAccessibleWidget::relations(match);
+        if (match & QAccessible::Label) {
+            found.append({QAccessible::queryAccessibleInterface(&m_heading), QAccessible::Label});
+        }
+        return found;
+    }
+
+private:
+    TextLine& m_heading;
+};
+
+}  // namespace
+
+Section::Section(std::string_view heading, const theme::TextStyle& style, int margin, QWidget* parent)
+    : QWidget(parent), m_margin(margin), m_heading(new TextLine(style, theme::kTextSection, this)) {
+    m_heading->setText(heading);
+}
+
+Section::Section(std::string_view heading, QWidget* parent, int margin)
+    : Section(heading, theme::kSectionStyle, margin, parent) {}
+
+Section::Section(std::string_view heading, const theme::TextStyle& style, QWidget* parent)
+    : Section(heading, style, 0, parent) {}
+
+void Section::setContent(QWidget* content) {
+    m_content = content;
+    m_content->setParent(this);
+    setMinimumHeight(kContentTop + content->minimumHeight());
+}
+
+QAccessibleInterface* Section::makeAccessible() { return new AccessibleSection(*this, *m_heading); }
+
+void Section::resizeEvent(QResizeEvent*) {
+    const int headingWidth = std::min(width() - 2 * m_margin, m_heading->sizeHint().width());
+    m_heading->setGeometry(m_margin, 0, headingWidth, m_heading->sizeHint().height());
+    if (m_content) m_content->setGeometry(0, kContentTop, width(), height() - kContentTop);
+}
+
+}  // namespace lumo

@@ -1,0 +1,90 @@
+#include "keyboard/KeyboardPicture.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cassert>
+#include <utility>
+
+#include "keyboard/KeyRing.h"
+#include "keyboard/PictureLayers.h"
+
+namespace lumo {
+namespace {
+
+constexpr QRect kWholePicture{0, 0, static_cast<int>(kPictureSize.width()), static_cast<int>(kPictureSize.height())};
+
+}  // namespace
+
+KeyboardPicture::KeyboardPicture(std::vector<KeyCap> keys, QImage picture)
+    : m_keys(std::move(keys)),
+      m_picture(std::move(picture)),
+      m_field(m_keys),
+      m_shades(m_keys.size()),
+      m_touches(m_keys.size()) {
+    m_touched.reserve(m_keys.size());
+}
+
+KeyboardPicture::~KeyboardPicture() = default;
+
+QRect KeyboardPicture::compose(std::span<const KeyLook> looks) {
+    assert(looks.size() == m_keys.size());
+    const bool isLightChanged = takeLights(looks);
+    const QRect touched = takeTouches(looks);
+    if (isLightChanged) m_field.update(m_shades);
+    if (std::exchange(m_isNew, false)) return kWholePicture;
+    if (isLightChanged) {
+        if (m_layers) m_layers->composeAll(m_shades, m_field);
+        return kWholePicture;
+    }
+    if (m_layers) {
+        for (const std::size_t key : m_touched) m_layers->composeKey(key, m_shades, m_field);
+    }
+    return touched;
+}
+
+bool KeyboardPicture::takeLights(std::span<const KeyLook> looks) {
+    bool isChanged = false;
+    for (std::size_t key = 0; key < m_keys.size(); ++key) {
+        const KeyShade shade = shadeOf(looks[key].light);
+        isChanged = isChanged || shade != m_shades[key];
+        m_shades[key] = shade;
+    }
+    return isChanged;
+}
+
+QRect KeyboardPicture::takeTouches(std::span<const KeyLook> looks) {
+    QRect touched;
+    m_touched.clear();
+    for (std::size_t key = 0; key < m_keys.size(); ++key) {
+        const KeyTouch touch = touchOf(looks[key]);
+        if (touch == m_touches[key]) continue;
+        m_touches[key] = touch;
+        m_touched.push_back(key);
+        if (m_layers) m_layers->setTouch(key, touch);
+        touched |= ringBounds(rectOf(m_keys[key])).toAlignedRect();
+    }
+    return touched;
+}
+
+void KeyboardPicture::makeLayers(const DeviceGrid& grid) {
+    m_layers = std::make_unique<PictureLayers>(grid, m_keys, m_picture);
+    for (std::size_t key = 0; key < m_keys.size(); ++key) {
+        if (m_touches[key] != KeyTouch{}) m_layers->setTouch(key, m_touches[key]);
+    }
+    m_layers->composeAll(m_shades, m_field);
+}
+
+void KeyboardPicture::paint(QPainter& painter, const QPointF& origin, const QRect& dirty) {
+    const QTransform toDevice = painter.deviceTransform();
+    const DevicePlace place = placeOnDevice(toDevice, origin);
+    if (!m_layers || m_layers->grid() != place.grid) makeLayers(place.grid);
+    const QRect part = place.grid.pixelsAround(dirty);
+    painter.save();
+    // Pixel on pixel, whatever the device does to points on their way to it.
+    painter.setWorldTransform(QTransform::fromTranslate(place.corner.x(), place.corner.y()) * toDevice.inverted(),
+                              true);
+    painter.drawImage(part.topLeft(), m_layers->frame(), part);
+    painter.restore();
+}
+
+}  // namespace lumo

@@ -1,0 +1,53 @@
+// The keyboard's row of the window: the picture, the layers, the selection presets and what is selected.
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "keyboard/KeyboardCanvas.h"
+
+namespace lumo {
+
+class FocusGroup;
+class InfoBox;
+class LayerPill;
+class PresetPill;
+class Section;
+
+/// Main thread. Owns no state: the three objects, which outlive it, hold all that it shows.
+class KeyboardView final : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int kHeight = 248;
+    /// How far the picture's shadow reaches out to the left of the case.
+    static constexpr int kShadow = 5;
+
+    KeyboardView(VexaProtocol& link, UIState& state, KeyboardModel& keyboard, MainQueue main,
+                 KeyboardCanvas::Clock clock, QWidget* parent);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void addLayers();
+    void addPresets();
+    void placeLayers(int width);
+    void placePresets(int width);
+    void refresh();
+
+    KeyboardModel& m_keyboard;
+    KeyboardActions m_actions;
+    KeyboardCanvas* m_canvas;
+    Section* m_layerSection;
+    FocusGroup* m_layerGroup;
+    std::vector<LayerPill*> m_layers;
+    Section* m_presetSection;
+    FocusGroup* m_presetGroup;
+    std::vector<PresetPill*> m_presets;
+    InfoBox* m_info;
+    CoalescedRefresh m_refresh;
+    Subscription m_keyboardChanges;
+};
+
+}  // namespace lumo

@@ -1,0 +1,64 @@
+#include "keyboard/LevelSection.h"
+
+#include "controls/Slider.h"
+#include "controls/TextLine.h"
+#include "controls/Theme.h"
+
+namespace lumo {
+namespace {
+
+constexpr int kSliderTop = 20;
+constexpr SliderRange kRange{0.0, LevelSection::kHighestLevel, 1.0};
+
+LevelSection::ValueText brightnessText(double level) {
+    constexpr std::int64_t kPercentOfLevel = 25;
+    return {std::to_string(static_cast<std::int64_t>(level * kPercentOfLevel)), "%"};
+}
+
+LevelSection::ValueText speedText(double level) {
+    return {"Level " + std::to_string(static_cast<std::int64_t>(level)), ""};
+}
+
+}  // namespace
+
+LevelSection::LevelSection(std::string_view heading, TextOf textOf, MainQueue main, QWidget* parent)
+    : Section(heading, parent),
+      m_textOf(std::move(textOf)),
+      m_value(new TextLine(theme::kValueStyle, theme::kText, this)),
+      m_unit(new TextLine(theme::kUnitStyle, theme::kTextMinor, this)),
+      m_slider(new Slider(kRange, main, this)) {
+    m_slider->setAccessibleName(QString::fromUtf8(heading.data(), static_cast<qsizetype>(heading.size())));
+    connect(m_slider, &Slider::valueChanged, this, &LevelSection::levelChanged);
+    connect(m_slider, &Slider::editingChanged, this, &LevelSection::edited);
+}
+
+void LevelSection::setLevel(double level) {
+    m_slider->setValue(level);
+    const ValueText shown = m_textOf(level);
+    m_unit->setText(shown.unit);
+    m_unit->setVisible(!shown.unit.empty());
+    if (m_value->setText(shown.text)) placeValue();
+}
+
+void LevelSection::resizeEvent(QResizeEvent* event) {
+    Section::resizeEvent(event);
+    m_slider->placeHitArea(QRect(0, kSliderTop, width(), Slider::kHitHeight));
+    placeValue();
+}
+
+void LevelSection::placeValue() {
+    const int unitWidth = m_unit->sizeHint().width();
+    const int valueWidth = m_value->sizeHint().width();
+    m_unit->setGeometry(width() - unitWidth, 0, unitWidth, kHeadingHeight);
+    m_value->setGeometry(width() - unitWidth - valueWidth, 0, valueWidth, kHeadingHeight);
+}
+
+LevelSection* makeBrightnessSection(MainQueue main, QWidget* parent) {
+    return new LevelSection("BRIGHTNESS", brightnessText, main, parent);
+}
+
+LevelSection* makeSpeedSection(MainQueue main, QWidget* parent) {
+    return new LevelSection("SPEED", speedText, main, parent);
+}
+
+}  // namespace lumo

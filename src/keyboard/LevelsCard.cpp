@@ -1,0 +1,68 @@
+#include "keyboard/LevelsCard.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "app/AssetManager.h"
+#include "controls/ColorWheel.h"
+#include "controls/Panel.h"
+#include "controls/Theme.h"
+#include "keyboard/LevelSection.h"
+
+namespace lumo {
+namespace {
+
+constexpr int kPitch = 54;  // from one section to the next
+constexpr int kWheelTop = 142;
+constexpr int kWheelFoot = 14;
+constexpr int kUsualWheel = 196;
+constexpr int kLargeWheel = 244;
+constexpr int kWideColumn = 260;
+
+QImage wheelPicture() {
+    const QImage* const picture = AssetManager::shared().image("colorwheel.png");
+    return picture ? *picture : QImage();
+}
+
+}  // namespace
+
+LevelsCard::LevelsCard(MainQueue main, QWidget* parent)
+    : QWidget(parent),
+      m_brightness(makeBrightnessSection(main, this)),
+      m_speed(makeSpeedSection(main, this)),
+      m_spectrum(new Section("COLOR SPECTRUM", this)),
+      m_wheel(new ColorWheel(wheelPicture(), main, m_spectrum)) {
+    m_wheel->setAccessibleName("COLOR SPECTRUM");
+    connect(m_brightness, &LevelSection::levelChanged, this, &LevelsCard::brightnessChanged);
+    connect(m_brightness, &LevelSection::edited, this, &LevelsCard::levelEdited);
+    connect(m_speed, &LevelSection::levelChanged, this, &LevelsCard::speedChanged);
+    connect(m_speed, &LevelSection::edited, this, &LevelsCard::levelEdited);
+    connect(m_wheel, &ColorWheel::picked, this, &LevelsCard::colorPicked);
+}
+
+void LevelsCard::setBrightness(double level) { m_brightness->setLevel(level); }
+
+void LevelsCard::setSpeed(double level) { m_speed->setLevel(level); }
+
+void LevelsCard::setColor(const Color& color) { m_wheel->setColor(color); }
+
+void LevelsCard::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintCard(painter, rect());
+}
+
+void LevelsCard::resizeEvent(QResizeEvent*) {
+    constexpr int kPadding = theme::kCardPadding;
+    const int inner = width() - 2 * kPadding;
+    m_brightness->setGeometry(kPadding, kPadding, inner, LevelSection::kHeight);
+    m_speed->setGeometry(kPadding, kPadding + kPitch, inner, LevelSection::kHeight);
+    const int spectrumTop = kPadding + 2 * kPitch;
+    m_spectrum->setGeometry(kPadding, spectrumTop, inner, height() - spectrumTop);
+
+    const int room = height() - kWheelTop - kWheelFoot;
+    const int diameter = std::min({width() > kWideColumn ? kLargeWheel : kUsualWheel, room, inner});
+    m_wheel->placePicture(
+        {(inner - diameter) / 2, kWheelTop - spectrumTop + (room - diameter) / 2, diameter, diameter});
+}
+
+}  // namespace lumo

@@ -1,0 +1,44 @@
+// The card with the levels and the colour wheel.
+#pragma once
+
+#include <QWidget>
+
+#include "foundation/Color.h"
+#include "foundation/RunLoop.h"
+
+namespace lumo {
+
+class ColorWheel;
+class LevelSection;
+class Section;
+
+/// Main thread.
+class LevelsCard final : public QWidget {
+    Q_OBJECT
+
+public:
+    LevelsCard(MainQueue main, QWidget* parent);
+
+    void setBrightness(double level);
+    void setSpeed(double level);
+    void setColor(const Color& color);
+
+signals:
+    void brightnessChanged(double level);
+    void speedChanged(double level);
+    /// A use of one of the sliders began, or ended.
+    void levelEdited();
+    void colorPicked(const lumo::Color& color);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    LevelSection* m_brightness;
+    LevelSection* m_speed;
+    Section* m_spectrum;
+    ColorWheel* m_wheel;
+};
+
+}  // namespace lumo
