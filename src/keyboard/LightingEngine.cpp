@@ -19,8 +19,8 @@ constexpr double kRoughTwoPi = 6.28;  // what some effects use for the full circ
 struct Moment {
     const KeyCap& key;
     Color base;
-    double glow;  // of a key at full strength
-    double time;  // runs faster with the speed
+    double glow = 0.0;  // of a key at full strength
+    double time = 0.0;  // runs faster with the speed
 
     [[nodiscard]] double dx() const { return key.x - kCentreX; }
     [[nodiscard]] double dy() const { return key.y - kCentreY; }
