@@ -41,6 +41,7 @@ add_library(lumo_ui STATIC
     controls/Theme.cpp
     controls/WheelDisc.cpp
     keyboard/AccessibleKeyboard.cpp
+    keyboard/CapLoops.cpp
     keyboard/ColorSwatch.cpp
     keyboard/DeviceGrid.cpp
     keyboard/EffectDot.cpp
@@ -62,15 +63,16 @@ add_library(lumo_ui STATIC
     keyboard/LegendMask.cpp
     keyboard/LevelSection.cpp
     keyboard/LevelsCard.cpp
+    keyboard/LightLoops.cpp
     keyboard/LightingControlView.cpp
     keyboard/PaletteCard.cpp
     keyboard/PictureLayers.cpp
-    keyboard/PixelLoops.cpp
+    keyboard/WideRegisters.cpp
     platform/qt/FrameClock.cpp
     platform/qt/NativePlatform.cpp
     platform/qt/QtRunLoop.cpp
-    platform/qt/WindowUpdates.cpp
     platform/qt/WindowSystem$<IF:$<BOOL:${APPLE}>,Mac,Xdg>.cpp
+    platform/qt/WindowUpdates.cpp
 )
 set_target_properties(lumo_ui PROPERTIES AUTOMOC ON)
 qt_add_resources(lumo_ui symbols PREFIX /symbols BASE controls/symbols FILES
@@ -97,8 +99,8 @@ qt_add_resources(lumo_ui symbols PREFIX /symbols BASE controls/symbols FILES
     controls/symbols/waveform.svg
     controls/symbols/xmark.svg
 )
-# -O2 of g++ 12 makes no vectors of loops whose length it does not know.
-set_source_files_properties(keyboard/PixelLoops.cpp PROPERTIES COMPILE_OPTIONS $<$<NOT:$<CONFIG:Debug>>:-O3>)
+# -O2 of g++ 12 makes no vectors of loops whose length it does not know; without any, a frame would last too long.
+set_source_files_properties(keyboard/CapLoops.cpp keyboard/LightLoops.cpp PROPERTIES COMPILE_OPTIONS -O3)
 target_include_directories(lumo_ui PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(lumo_ui PUBLIC lumo_core lumo_platform Qt6::Widgets PRIVATE lumo_options Qt6::Svg)
 if(NOT APPLE)

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "keyboard/PixelLoops.h"
+#include "keyboard/PixelBlocks.h"
 
 namespace lumo {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <QImage>
 
+#include "keyboard/CapLoops.h"
 #include "keyboard/DeviceGrid.h"
-#include "keyboard/PixelLoops.h"
 
 namespace lumo {
 

@@ -5,6 +5,8 @@
 
 #include "controls/Theme.h"
 #include "keyboard/KeyboardCase.h"
+#include "keyboard/LightLoops.h"
+#include "keyboard/WideRegisters.h"
 
 namespace lumo {
 namespace {

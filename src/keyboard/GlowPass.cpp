@@ -62,9 +62,10 @@ void GlowPass::placePixels(const DeviceGrid& grid) {
 }
 
 void GlowPass::findRuns(const QImage& lightMask, std::span<const CapCover> covers) {
+    std::size_t place = 0;
     for (int row = 0; row < m_blocks.bottom; ++row) {
         for (int block = 0; block < m_blocks.right; ++block) {
-            const CapCover cover = covers[static_cast<std::size_t>(row * m_blocks.right + block)];
+            const CapCover cover = covers[place++];
             if (cover == CapCover::whole) continue;
             const std::uint8_t* const mask = lightMask.constScanLine(row) + block * kBlockPixels;
             const bool takesLight = std::any_of(mask, mask + kBlockPixels, [](std::uint8_t part) { return part > 0; });

@@ -9,6 +9,7 @@
 #include "keyboard/DeviceGrid.h"
 #include "keyboard/FrameView.h"
 #include "keyboard/GlowField.h"
+#include "keyboard/LightLoops.h"
 
 namespace lumo {
 

@@ -31,12 +31,13 @@ public:
         for (int x = 0; x < m_width; ++x) blurLine(&at(x, 0), m_width, m_height, radius);
     }
 
-    [[nodiscard]] float& at(int x, int y) { return m_values[static_cast<std::size_t>(y * m_width + x)]; }
+    [[nodiscard]] float& at(int x, int y) { return *(m_values.data() + y * m_width + x); }
 
 private:
     void blurLine(float* first, int step, int count, int radius) {
-        m_line.assign(static_cast<std::size_t>(count + 2 * radius + 1), 0.0F);
-        for (int i = 0; i < count; ++i) m_line[static_cast<std::size_t>(i + radius + 1)] = first[i * step];
+        const int length = count + 2 * radius + 1;
+        m_line.assign(static_cast<std::size_t>(length), 0.0F);
+        for (int i = 0; i < count; ++i) *(m_line.begin() + i + radius + 1) = first[i * step];
         std::partial_sum(m_line.begin(), m_line.end(), m_line.begin());
         const int width = 2 * radius + 1;
         const float* const sums = m_line.data();
@@ -111,7 +112,7 @@ GlowWeights::Table GlowWeights::addTable(const QRectF& emitter, QSize size, cons
         for (int x = 0; x < size.width(); ++x) {
             const double share = std::max(static_cast<double>(light.at(x, y)), 0.0);
             std::fill_n(row + x * static_cast<int>(pixels::kCellLanes), pixels::kCellLanes,
-                        static_cast<pixels::Share>(share * layer.strength * pixels::kWhole + 0.5));
+                        static_cast<pixels::Share>(share * layer.strength * pixels::kWhole));
         }
     }
     return table;

@@ -12,7 +12,7 @@
 #include <vector>
 
 #include "keyboard/KeyCap.h"
-#include "keyboard/PixelLoops.h"
+#include "keyboard/PixelBlocks.h"
 
 namespace lumo {
 

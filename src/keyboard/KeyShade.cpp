@@ -25,7 +25,7 @@ Mixed mix(const Mixed& from, const Mixed& to, double share) {
 }
 
 ColorBytes rounded(const Mixed& color) {
-    const auto byte = [](double level) { return static_cast<std::uint8_t>(level + 0.5); };
+    const auto byte = [](double level) { return static_cast<std::uint8_t>(std::lround(level)); };
     return {byte(color.red), byte(color.green), byte(color.blue)};
 }
 
@@ -44,7 +44,7 @@ const std::array<double, 256>& linearLevels() {
 
 KeyShade shadeOf(const KeyLight& light) {
     const double share = light.glowOpacity > 0.0 ? std::min(light.glowOpacity, 1.0) : 0.0;
-    const auto glow = static_cast<std::uint8_t>(share * 255.0 + 0.5);
+    const auto glow = static_cast<std::uint8_t>(std::lround(share * 255.0));
     return glow == 0 ? KeyShade{} : KeyShade{toBytes(light.color), glow};
 }
 

@@ -6,7 +6,7 @@
 
 #include "foundation/Color.h"
 #include "keyboard/LightingEngine.h"
-#include "keyboard/PixelLoops.h"
+#include "keyboard/PixelBlocks.h"
 
 namespace lumo {
 

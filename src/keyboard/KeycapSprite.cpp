@@ -18,9 +18,9 @@ Lane unlitLane(float share) {
     constexpr float kHalfLevel = pixels::kCapLevel / 2.0F;  // as it cuts off what is below a level
     return static_cast<Lane>(share * 255.0F * pixels::kCapLevel + kHalfLevel);
 }
-Lane colorLane(float share) { return static_cast<Lane>(share * 65536.0F + 0.5F); }
+Lane colorLane(float share) { return static_cast<Lane>(share * 65536.0F); }
 Lane glowLane(float share) { return static_cast<Lane>(share * 255.0F * pixels::kCapLevel * 2.0F); }
-Share keepShare(float share) { return static_cast<Share>(share * 32768.0F + 0.5F); }
+Share keepShare(float share) { return static_cast<Share>(share * 32768.0F); }
 
 }  // namespace
 

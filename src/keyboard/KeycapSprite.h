@@ -5,10 +5,10 @@
 #include <QSize>
 #include <vector>
 
+#include "keyboard/CapLoops.h"
 #include "keyboard/DeviceGrid.h"
 #include "keyboard/KeyShade.h"
 #include "keyboard/KeycapRecipe.h"
-#include "keyboard/PixelLoops.h"
 
 namespace lumo {
 

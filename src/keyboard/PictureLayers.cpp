@@ -7,6 +7,7 @@
 #include "controls/Theme.h"
 #include "keyboard/KeyLegend.h"
 #include "keyboard/KeyboardCase.h"
+#include "keyboard/WideRegisters.h"
 
 namespace lumo {
 namespace {
@@ -98,7 +99,7 @@ std::vector<CapCover> PictureLayers::covers() const {
             for (int x = rect.left() / kBlockPixels * kBlockPixels; x <= rect.right(); x += kBlockPixels) {
                 const int from = x - cap.corner.x();
                 const bool isWhole = from >= opaque.first && from + kBlockPixels <= opaque.end;
-                auto& cover = covers[static_cast<std::size_t>(y * all.width() + x / kBlockPixels)];
+                CapCover& cover = *(covers.begin() + y * all.width() + x / kBlockPixels);
                 cover = std::max(cover, isWhole ? CapCover::whole : CapCover::partly);
             }
         }

@@ -75,6 +75,14 @@ TEST_F(FramesOnDisplayUpdates, AreSpacedWhereTheDisplayAnswersAtOnce) {
     EXPECT_LE(answers.count(), 2 * 4);
 }
 
+TEST_F(FramesOnDisplayUpdates, StartWithAPaintAndGoOnWithoutOne) {
+    show();
+    const int before = canvas->paints;
+    clock->setWanted(true);
+    EXPECT_TRUE(moreFramesCome());
+    EXPECT_EQ(canvas->paints, before + 1);
+}
+
 TEST_F(FramesOnDisplayUpdates, AnUpdateLeftOverPaintsNothing) {
     run();
     const int before = canvas->paints;

@@ -86,12 +86,19 @@ void FrameClock::leaveWindow() {
 
 void FrameClock::follow() {
     watchWindow();
-    if (!isRunning()) return m_timer.stop();
+    if (!isRunning()) return stop();
     if (!m_timer.isActive()) request();
 }
 
+void FrameClock::stop() {
+    m_timer.stop();
+    m_hasStarted = false;
+}
+
+/// A Wayland window that was covered may still owe an update then, and grants it only after it has painted something.
 void FrameClock::request() {
     if (!m_pacing.followsDisplay) return waitForDeadline();
+    if (!std::exchange(m_hasStarted, true)) m_widget->update();
     WindowUpdates::of(*m_window).request();
 }
 

@@ -43,6 +43,7 @@ private:
     void watchWindow();
     void leaveWindow();
     void follow();
+    void stop();
     void request();
     void waitForDeadline();
     void updateGranted();
@@ -56,6 +57,7 @@ private:
     std::chrono::steady_clock::time_point m_lastFrame;
     QBasicTimer m_timer;  // while it runs no update is requested
     bool m_isWanted = false;
+    bool m_hasStarted = false;
 };
 
 }  // namespace lumo

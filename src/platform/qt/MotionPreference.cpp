@@ -50,6 +50,7 @@ bool MotionPreference::currentIsReduced() { return theCurrent && theCurrent->isR
 /// On the connecting thread, since Qt waits for the bus here too. Listens before it asks: no change is missed.
 void MotionPreference::listen(QDBusConnection bus) {
     if (!bus.isConnected()) return;
+    qRegisterMetaType<QDBusVariant>();  // or Qt does not know the slot's last argument by its name
     bus.connect(kService, kPath, kInterface, "SettingChanged", this, SLOT(take(QString, QString, QDBusVariant)));
     QMetaObject::invokeMethod(
         this, [this, bus] { ask(bus); }, Qt::QueuedConnection);

@@ -6,11 +6,13 @@ file(GLOB lumo_apple_layer CONFIGURE_DEPENDS
 set(lumo_apple_sources
     ${lumo_apple_layer}
     ${PROJECT_SOURCE_DIR}/src/app/HeaderBar.cpp
-    ${PROJECT_SOURCE_DIR}/src/controls/TextLine.cpp
+    ${PROJECT_SOURCE_DIR}/src/controls/ColorWheel.cpp
+    ${PROJECT_SOURCE_DIR}/src/controls/Lettering.cpp
     ${PROJECT_SOURCE_DIR}/src/controls/Theme.cpp
+    ${PROJECT_SOURCE_DIR}/src/keyboard/KeyboardCanvas.cpp
     ${PROJECT_SOURCE_DIR}/src/platform/qt/NativePlatform.cpp
     ${PROJECT_SOURCE_DIR}/src/platform/qt/WindowSystemMac.cpp
 )
 # clang 14's own libc++ has no algorithms of std::ranges. Apple's clang 15 has them, so files that use them are not
 # held against the older one.
-set(lumo_apple_sources_not_for_libcxx)
+set(lumo_apple_sources_not_for_libcxx ${PROJECT_SOURCE_DIR}/src/keyboard/KeyboardCanvas.cpp)
