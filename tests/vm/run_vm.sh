@@ -47,8 +47,8 @@ needPrograms() {
     needCommand xdotool xdotool
     needCommand dbus-daemon dbus-daemon
     needCommand at-spi-bus-launcher at-spi2-core
-    /usr/bin/python3 -c 'import gi; gi.require_version("Atspi", "2.0")' 2>/dev/null ||
-        cannotRun "Python's door to the accessibility tree is missing (packages python3-gi and gir1.2-atspi-2.0)."
+    /usr/bin/python3 -c 'import gi; gi.require_version("Gio", "2.0")' 2>/dev/null ||
+        cannotRun "Python's door to the accessibility bus is missing (package python3-gi)."
     for program in vexa-lumo-65 lumo-uhid-keyboard lumo-usbip-keyboard; do
         [ -x "$build/bin/$program" ] || die "$build/bin/$program has not been built."
     done

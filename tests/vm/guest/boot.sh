@@ -40,16 +40,20 @@ startDeviceManager() {
     udevadm control --ping
 }
 
-# The checkout may lie where only its owner can look, as in /root; the program runs as somebody else.
+# The checkout may lie where only its owner can look, as in /root; the program runs as somebody else. It lies as
+# installed, its pictures beside it.
 copyFiles() {
-    mkdir -p $files
-    cp "$lumoTests"/guest/*.py "$lumoBuild"/bin/{vexa-lumo-65,lumo-uhid-keyboard,lumo-usbip-keyboard} $files
+    local pictures=$files/share/vexa-lumo-65
+    mkdir -p $files/bin $pictures
+    cp "$lumoTests"/guest/*.py $files
+    cp "$lumoBuild"/bin/{vexa-lumo-65,lumo-uhid-keyboard,lumo-usbip-keyboard} $files/bin
+    cp -r "$lumoTests"/../../vexa_lumo_macos/assets/{*.png,skins} $pictures
     chmod -R a+rX $files
 }
 
 runScenario() {
     cd /tmp || return
-    LUMO_BIN=$files LUMO_FAULT=$lumoFault PYTHONUNBUFFERED=1 PYTHONDONTWRITEBYTECODE=1 \
+    LUMO_BIN=$files/bin LUMO_FAULT=$lumoFault PYTHONUNBUFFERED=1 PYTHONDONTWRITEBYTECODE=1 \
         LANG=C.UTF-8 /usr/bin/python3 $files/scenario.py >>$out/report.txt 2>&1
 }
 

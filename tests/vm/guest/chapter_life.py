@@ -13,7 +13,7 @@ def tell(checks, window, application, keyboard):
     stories.registers_hold(checks, keyboard, "before", expected.PARAMETER_BLOCK_BEFORE, expected.COLOUR_BLOCK_BEFORE)
 
     stories.chooses_raindrops(checks, window)
-    stories.raindrops_is_four_sets_and_two_gets(checks, keyboard.transfers()[2:])
+    stories.effect_is_four_sets_and_two_gets(checks, keyboard.transfers()[2:])
     stories.registers_hold(checks, keyboard, "after", expected.PARAMETER_BLOCK_WRITE, expected.COLOUR_BLOCK_WRITE)
     checks.check("the typing interface is not opened", nodes[hidraw.TYPING] not in hidraw.opened_by(application.pid))
 

@@ -5,6 +5,7 @@ import os
 import sys
 
 import chapter_life
+import chapter_lighting
 import chapter_quitting
 import chapter_rights
 import desktop
@@ -12,6 +13,7 @@ import hidraw
 from application import Application
 from checks import Checks
 from keyboard import Keyboard
+from window import Window
 
 BIN = os.environ["LUMO_BIN"]
 LOGS = "/run/lumo"
@@ -23,7 +25,8 @@ def keyboards():
     """All are started while we are root, and none is plugged. Their names are no other text of the application."""
     usb, uhid = f"{BIN}/lumo-usbip-keyboard", f"{BIN}/lumo-uhid-keyboard"
     programs = {"rights": (usb, CABLE), "rights-receiver": (usb, RECEIVER), "usb": (usb, CABLE),
-                "uhid": (uhid, RECEIVER), "hanging-set": (usb, RECEIVER), "hanging-get": (usb, CABLE)}
+                "lighting": (usb, CABLE), "uhid": (uhid, RECEIVER), "hanging-set": (usb, RECEIVER),
+                "hanging-get": (usb, CABLE)}
     return {chapter: Keyboard(program, f"{LOGS}/{chapter}.jsonl", name=f"Lumo <{chapter}> ü", **ids)
             for chapter, (program, ids) in programs.items()}
 
@@ -38,13 +41,13 @@ def tell_as_user(checks, boards):
         checks.chapter(title, lambda: with_application(checks, board, boards[board], tell))
 
     chapter("USB keyboard", "usb", chapter_life.tell)
+    chapter("Lighting page", "lighting", chapter_lighting.tell)
     chapter("HID keyboard without a bus", "uhid", chapter_life.tell)
     for board, hang in (("hanging-set", "set 8a hang"), ("hanging-get", "get 8a hang")):
         chapter(f"Quitting while \"{hang}\"", board, functools.partial(chapter_quitting.tell, hang=hang))
 
 
 def with_application(checks, name, keyboard, tell):
-    from window import Window  # not before the desktop stands: the accessibility bus is looked up on import
     checks.eventually("no keyboard is left from before", hidraw.nodes, lambda nodes: not nodes)
     application = Application(f"{BIN}/vexa-lumo-65", f"{LOGS}/{name}.console.txt")
     try:

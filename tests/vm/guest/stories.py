@@ -45,8 +45,12 @@ def chooses_raindrops(checks, window):
     checks.check("the row \"Raindrops\" can be chosen", window.choose("Raindrops"))
     checks.eventually("the status reads \"Applied: Raindrops\"", window.status,
                       lambda texts: texts[:1] == ["Applied: Raindrops"])
-    checks.eventually("the row \"Raindrops\" alone is marked", window.effects,
-                      lambda effects: [name for name, chosen in effects.items() if chosen] == ["Raindrops"])
+    is_marked(checks, window, "Raindrops")
+
+
+def is_marked(checks, window, effect):
+    checks.eventually(f"the row \"{effect}\" alone is marked", window.effects,
+                      lambda effects: [name for name, chosen in effects.items() if chosen] == [effect])
 
 
 def handshake_is_one_pair(checks, transfers):
@@ -57,7 +61,8 @@ def handshake_is_one_pair(checks, transfers):
     checks.check("the answer is fetched 30 ms later at the earliest", answer.us - query.us >= 30 * MS, f"{transfers}")
 
 
-def raindrops_is_four_sets_and_two_gets(checks, transfers):
+def effect_is_four_sets_and_two_gets(checks, transfers, colours=expected.COLOUR_BLOCK_WRITE,
+                                     parameters=expected.PARAMETER_BLOCK_WRITE):
     order = ["set", "get", "set", "set", "get", "set"]
     checks.equal("the effect is four sets and two gets", [one.direction for one in transfers], order)
     checks.check("all were accepted", all(one.accepted for one in transfers), f"{transfers}")
@@ -65,16 +70,15 @@ def raindrops_is_four_sets_and_two_gets(checks, transfers):
     sets = [one for one in transfers if one.direction == "set"]
     gaps = [after.us - before.us for before, after in zip(sets, sets[1:])]
     checks.check("at least 20 ms between sets", all(gap >= 20 * MS for gap in gaps), f"{gaps} microseconds")
-    bytes_are_right(checks, [one.bytes for one in transfers])
+    bytes_are_right(checks, [one.bytes for one in transfers], colours, parameters)
 
 
-def bytes_are_right(checks, reports):
+def bytes_are_right(checks, reports, wanted_colours, wanted_parameters):
     colours_asked, colours, colours_written, parameters_asked, parameters, parameters_written = reports
     checks.same_bytes("the colour block is asked for", colours_asked, expected.COLOUR_BLOCK_READ)
-    checks.same_bytes("the colour block is written as it must be", colours_written, expected.COLOUR_BLOCK_WRITE)
+    checks.same_bytes("the colour block is written as it must be", colours_written, wanted_colours)
     checks.same_bytes("the parameter block is asked for", parameters_asked, expected.PARAMETER_BLOCK_READ)
-    checks.same_bytes("the parameter block is written as it must be", parameters_written,
-                      expected.PARAMETER_BLOCK_WRITE)
+    checks.same_bytes("the parameter block is written as it must be", parameters_written, wanted_parameters)
     for what, before, after, patched in (
             ("colour", colours, colours_written, expected.COLOUR_BLOCK_PATCHED),
             ("parameter", parameters, parameters_written, expected.PARAMETER_BLOCK_PATCHED)):

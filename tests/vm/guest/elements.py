@@ -1,0 +1,77 @@
+"""The elements of the window: what they say of themselves, the ways through them, and how they are used."""
+
+from gi.repository import GLib
+
+from accessibility import ACCESSIBLE, ACTION, COMPONENT, PROPERTIES, VALUE
+
+KEYBOARD = "Keyboard"
+CHECKED, SELECTED, SHOWING = 1 << 4, 1 << 23, 1 << 25
+
+
+class Element:
+    """As it was when it was read."""
+
+    def __init__(self, reference, name, role, states, children):
+        self.reference = reference
+        self.name, = name
+        self.role, = role
+        self.children, = children
+        self.is_showing = bool(states[0][0] & SHOWING)
+        self.is_chosen = bool(states[0][0] & (CHECKED | SELECTED))
+
+
+def read(bus, references):
+    """The elements that are still there and showing."""
+    questions = ((PROPERTIES, "Get", GLib.Variant("(ss)", (ACCESSIBLE, "Name"))),
+                 (ACCESSIBLE, "GetRoleName", None), (ACCESSIBLE, "GetState", None), (ACCESSIBLE, "GetChildren", None))
+    answers = bus.ask([(reference, *question) for reference in references for question in questions])
+    told = zip(references, *(answers[at::len(questions)] for at in range(len(questions))))
+    elements = [Element(*parts) for parts in told if None not in parts]
+    return [element for element in elements if element.is_showing]
+
+
+def levels(bus, references):
+    """Everything below, level by level, which comes to the window's larger parts early; without the 67 keys."""
+    while references:
+        elements = read(bus, references)
+        yield elements
+        references = [child for element in elements if element.name != KEYBOARD for child in element.children]
+
+
+def find(bus, references, wanted):
+    return next((one for level in levels(bus, references) for one in level if wanted(one)), None)
+
+
+def texts(bus, references):
+    """Left to right, the names of what has no parts of its own."""
+    leaves = [one for level in levels(bus, references) for one in level if one.name and not one.children]
+    on_screen = GLib.Variant("(u)", (0,))
+    places = bus.ask([(one.reference, COMPONENT, "GetExtents", on_screen) for one in leaves])
+    return [name for _, name in sorted((place[0][0], one.name) for place, one in zip(places, leaves) if place)]
+
+
+def beside(bus, element):
+    """What has the same parent, the element itself included."""
+    told = bus.ask_one(element.reference, PROPERTIES, "Get", GLib.Variant("(ss)", (ACCESSIBLE, "Parent")))
+    listed = told and bus.ask_one(told[0], ACCESSIBLE, "GetChildren")
+    return listed[0] if listed else []
+
+
+def press(bus, element):
+    """Does what a click does. True when the element took it."""
+    told = bus.ask_one(element.reference, ACTION, "GetActions")
+    names = [name for name, _, _ in told[0]] if told else []
+    if "Press" not in names:
+        return False
+    at = names.index("Press")
+    return bus.ask_one(element.reference, ACTION, "DoAction", GLib.Variant("(i)", (at,))) == (True,)
+
+
+def value(bus, element):
+    told = bus.ask_one(element.reference, PROPERTIES, "Get", GLib.Variant("(ss)", (VALUE, "CurrentValue")))
+    return told[0] if told else None
+
+
+def set_value(bus, element, wanted):
+    arguments = GLib.Variant("(ssv)", (VALUE, "CurrentValue", GLib.Variant("d", wanted)))
+    return bus.ask_one(element.reference, PROPERTIES, "Set", arguments) is not None
