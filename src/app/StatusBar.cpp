@@ -37,8 +37,9 @@ StatusBar::StatusBar(QWidget* parent)
 }
 
 void StatusBar::addFixedText(std::string_view text) {
-    m_fixedTexts.push_back(new TextLine(theme::kFineStyle, theme::kTextFixed, this));
-    m_fixedTexts.back()->setText(text);
+    auto* line = new TextLine(theme::kFineStyle, theme::kTextFixed, this);
+    line->setText(text);
+    m_fixedTexts.push_front(line);
 }
 
 void StatusBar::setMessage(std::string_view message) {
@@ -59,9 +60,9 @@ void StatusBar::paintEvent(QPaintEvent*) {
 void StatusBar::resizeEvent(QResizeEvent*) {
     m_separators.clear();
     int right = width() - theme::kWindowMargin;
-    for (auto text = m_fixedTexts.rbegin(); text != m_fixedTexts.rend(); ++text) {
-        const int textWidth = (*text)->sizeHint().width();
-        m_separators.push_back(placeAt(**text, right - textWidth, textWidth) - kGap - 1);
+    for (TextLine* text : m_fixedTexts) {
+        const int textWidth = text->sizeHint().width();
+        m_separators.push_back(placeAt(*text, right - textWidth, textWidth) - kGap - 1);
         right = m_separators.back() - kGap;
     }
     placeAt(*m_message, theme::kWindowMargin, right - theme::kWindowMargin);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <deque>
 #include <string_view>
 #include <vector>
 
@@ -33,8 +34,8 @@ private:
     void addFixedText(std::string_view text);
 
     TextLine* m_message;
-    std::vector<TextLine*> m_fixedTexts;  // from left to right
-    std::vector<int> m_separators;        // where they stand
+    std::deque<TextLine*> m_fixedTexts;  // from right to left
+    std::vector<int> m_separators;       // where they stand
 };
 
 }  // namespace lumo

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] QAccessibleInterface* child(int index) const override;
     [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override;
     [[nodiscard]] QAccessibleInterface* focusChild() const override;
-    [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override;
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface* wanted) const override;
 
 private:
     KeyboardCanvas& m_canvas;

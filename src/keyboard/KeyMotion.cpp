@@ -32,7 +32,7 @@ double KeyMotion::press(std::size_t key) const {
 
 KeyMotion::Motion& KeyMotion::motionOf(std::size_t key) {
     auto& motion = m_motions[key];
-    if (!motion) motion.reset(new Motion{Fade(m_owner, m_changed), Fade(m_owner, m_changed)});
+    if (!motion) motion = std::make_unique<Motion>(m_owner, m_changed);
     return *motion;
 }
 

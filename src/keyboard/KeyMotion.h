@@ -27,6 +27,7 @@ public:
 
 private:
     struct Motion {
+        Motion(QWidget& owner, const std::function<void()>& moved) : hover(owner, moved), press(owner, moved) {}
         Fade hover;
         Fade press;
     };

@@ -24,7 +24,7 @@ Share keepShare(float share) { return static_cast<Share>(share * 32768.0F); }
 
 }  // namespace
 
-KeycapSprite::KeycapSprite(const QRectF& key, double scale, const KeycapLook& look) : m_blocks(0) {
+KeycapSprite::KeycapSprite(const QRectF& key, double scale, const KeycapLook& look) {
     const QRectF points(key.topLeft() / scale, key.size() / scale);
     const QRectF bounds = capBounds(points);
     m_blocks = static_cast<int>(std::ceil(bounds.right() * scale / pixels::kBlockPixels));

@@ -43,8 +43,8 @@ private:
     [[nodiscard]] bool isOpaque(int block) const;
     [[nodiscard]] bool areAlike(int one, int other) const;
 
-    QSize m_size;  // pixels
-    int m_blocks;  // in a row
+    QSize m_size;      // pixels
+    int m_blocks = 0;  // in a row
     std::vector<pixels::Lane> m_unlit;
     std::vector<pixels::Share> m_keep;
     Tint m_plain;

@@ -23,7 +23,7 @@ void Tour::then(QString what, std::function<void()> act, std::function<bool()> i
     m_steps.push_back({std::move(what), std::move(act), std::move(isSeen)});
 }
 
-void Tour::picture(QString fileName) {
+void Tour::picture(const QString& fileName) {
     then(
         "waiting for the window to rest", [] {}, [this] { return m_sinceBegin.elapsed() >= kLongestFadeMs; });
     then(

@@ -21,7 +21,7 @@ public:
     /// `act` runs, then the tour goes on as soon as `isSeen` says yes.
     void then(QString what, std::function<void()> act, std::function<bool()> isSeen);
     /// As PNG, at the scale of the screen. Lets fades and hovers end before.
-    void picture(QString fileName);
+    void picture(const QString& fileName);
 
     void begin();
 
