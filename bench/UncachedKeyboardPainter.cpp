@@ -154,8 +154,8 @@ UncachedKeyboardPainter::UncachedKeyboardPainter(std::vector<KeyCap> keys, QImag
 void UncachedKeyboardPainter::paint(QPainter& painter, std::span<const KeyLook> looks) const {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     painter.fillRect(kPicture, theme::kWindow);
-    paintSpill(painter, looks);
     painter.drawImage(kPicture, m_picture);
+    paintSpill(painter, looks);
     paintLight(painter, looks);
     for (std::size_t i = 0; i < m_keys.size(); ++i) paintKey(painter, m_keys[i], looks[i]);
     for (const bool selected : {false, true}) {
@@ -167,9 +167,14 @@ void UncachedKeyboardPainter::paint(QPainter& painter, std::span<const KeyLook> 
 
 void UncachedKeyboardPainter::paintSpill(QPainter& painter, std::span<const KeyLook> looks) const {
     const QImage spill = emitters(m_keys, looks, {163, 62}, 0.25, {1, 1, 2});
+    QPainterPath desk;
+    desk.addRect(kPicture);
+    QPainterPath body;
+    body.addRoundedRect(QRectF(5, 13, 641, 223), 16, 16);
     painter.save();
+    painter.setClipPath(desk - body);
     painter.setOpacity(0.16);
-    painter.translate(kPicture.center());
+    painter.translate(kPicture.center() + QPointF(0, 5));
     painter.scale(1.035, 1.10);
     painter.translate(-kPicture.center());
     painter.drawImage(QRectF(0, 0, 652, 248), spill);
@@ -217,21 +222,24 @@ void UncachedKeyboardPainter::paintCap(QPainter& painter, const KeyCap& key, con
 
 void UncachedKeyboardPainter::paintLegend(QPainter& painter, const KeyCap& key, const KeyLook& look) const {
     const QRectF face(key.x + 3.5, key.y + 2 + look.press, key.width - 7, key.height - 8);
+    const QString text = QString::fromStdString(key.label);
+    const bool isLong = text.size() > 3;
+    const double size = text.size() == 1 ? 12.5 : !isLong ? 9.5 : text.size() >= 6 && key.width == 34 ? 8.1 : 8.6;
+    const bool hasFn = !key.fnLabel.empty();
+    const double baseline = hasFn ? face.top() + 12.2 : face.center().y() + 0.36 * size;
+    const double legendMiddle = baseline - 0.36 * size;
     if (look.light.glowOpacity > 0.15) {
-        QRadialGradient halo(face.center(), 11);
+        const QPointF behind(face.center().x(), legendMiddle);
+        QRadialGradient halo(behind, 11);
         halo.setColorAt(0, faded(colorOf(look.light), 0.22 * look.light.glowOpacity));
         halo.setColorAt(1, faded(colorOf(look.light), 0));
         painter.setPen(Qt::NoPen);
         painter.setBrush(halo);
-        painter.drawEllipse(face.center(), 11, 11);
+        painter.drawEllipse(behind, 11, 11);
     }
-    const QString text = QString::fromStdString(key.label);
-    const bool isLong = text.size() > 3;
-    const double size = text.size() == 1 ? 12.5 : !isLong ? 9.5 : text.size() >= 6 && key.width == 34 ? 8.1 : 8.6;
     const QColor color = legendColor(look.light);
     const double middle = face.center().x();
-    const bool hasFn = !key.fnLabel.empty();
-    drawCentred(painter, text, size, middle, hasFn ? face.top() + 12.2 : face.center().y() + 0.36 * size, color);
+    drawCentred(painter, text, size, middle, baseline, color);
     if (!hasFn) return;
     drawCentred(painter, QString::fromStdString(key.fnLabel), 7.4, middle, face.bottom() - 3.2,
                 mix(QColor(0x9E, 0x9F, 0xA6), color, 0.55));

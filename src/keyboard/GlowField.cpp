@@ -29,9 +29,10 @@ constexpr int kFarRows = GlowField::kRows / 2;
 constexpr QRect kFarPlate{QPoint(kPlateLeft / 2 - 1, kPlateTop / 2 - 1), QPoint(kPlateRight / 2, kPlateBottom / 2)};
 
 constexpr double kDoubled = 65536.0 / pixels::kWhole / 4.0;  // what doubleCells and layUnder do to the far layer
-constexpr GlowLayer kNearLayer{GlowField::kCell, {1, 1, 2}, 0.74, 1.0, 1.0};
-constexpr GlowLayer kFarLayer{2.0 * GlowField::kCell, {3, 3, 3}, 0.38 * kDoubled, 1.0, 1.0};
-constexpr GlowLayer kDeskLayer{GlowField::kCell, {3, 3, 3}, 0.16, 1.035, 1.10};
+constexpr GlowLayer kNearLayer{GlowField::kCell, {1, 1, 2}, 0.74};
+constexpr GlowLayer kFarLayer{2.0 * GlowField::kCell, {3, 3, 3}, 0.38 * kDoubled};
+// Seen from above its front edge, the case stands clear of the desk there: light comes out below it, hardly above.
+constexpr GlowLayer kDeskLayer{GlowField::kCell, {3, 3, 3}, 0.16, 1.035, 1.10, 5.0};
 
 pixels::Pixel pixelOf(const QColor& color) {
     const auto lane = [](int level) { return static_cast<pixels::Lane>(level); };

@@ -64,7 +64,7 @@ QImage drawEmitter(const QRectF& rect, const QSizeF& radii, QSize size) {
 QTransform toCells(const GlowLayer& layer) {
     const QPointF centre(kPictureSize.width() / 2.0, kPictureSize.height() / 2.0);
     QTransform transform = QTransform::fromScale(1.0 / layer.cell, 1.0 / layer.cell);
-    transform.translate(centre.x(), centre.y());
+    transform.translate(centre.x(), centre.y() + layer.lowering);
     transform.scale(layer.widening, layer.heightening);
     return transform.translate(-centre.x(), -centre.y());
 }

@@ -23,6 +23,7 @@ struct GlowLayer {
     double strength = 1.0;          // 0 to 1
     double widening = 1.0;          // of the whole about the picture's centre
     double heightening = 1.0;
+    double lowering = 0.0;  // points
 };
 
 /// Immutable; any thread.

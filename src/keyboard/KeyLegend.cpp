@@ -8,6 +8,8 @@ namespace lumo {
 namespace {
 
 constexpr double kFnSize = 7.4;
+constexpr double kMiddleToBaseline = 0.36;  // of the size
+constexpr double kBaselineAboveFn = 12.2;   // from the face's top
 
 double sizeFor(const QString& text, double keyWidth) {
     if (text.size() == 1) return 12.5;
@@ -24,13 +26,18 @@ QString textOf(std::string_view utf8) { return QString::fromUtf8(utf8.data(), st
 
 }  // namespace
 
+double legendRise(const KeyCap& key, const QRectF& face) {
+    if (key.fnLabel.empty()) return 0.0;
+    return face.height() / 2.0 - kBaselineAboveFn + kMiddleToBaseline * sizeFor(textOf(key.label), key.width);
+}
+
 KeyLegend legendOf(const KeyCap& key, const QRectF& face) {
     const QString text = textOf(key.label);
     const double size = sizeFor(text, key.width);
     const double middle = face.center().x();
-    if (key.fnLabel.empty()) return {centred(text, size, middle, face.center().y() + 0.36 * size), {}};
-    return {centred(text, size, middle, face.top() + 12.2),
-            centred(textOf(key.fnLabel), kFnSize, middle, face.bottom() - 3.2)};
+    const double baseline = face.center().y() - legendRise(key, face) + kMiddleToBaseline * size;
+    if (key.fnLabel.empty()) return {centred(text, size, middle, baseline), {}};
+    return {centred(text, size, middle, baseline), centred(textOf(key.fnLabel), kFnSize, middle, face.bottom() - 3.2)};
 }
 
 }  // namespace lumo

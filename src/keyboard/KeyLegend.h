@@ -15,6 +15,9 @@ struct KeyLegend {
     QPainterPath fn;  // for the Fn layer; mostly empty
 };
 
+/// By how many points the middle of the main legend stands above the middle of the face.
+[[nodiscard]] double legendRise(const KeyCap& key, const QRectF& face);
+
 /// `face` is the cap's upper side.
 [[nodiscard]] KeyLegend legendOf(const KeyCap& key, const QRectF& face);
 

@@ -9,6 +9,7 @@
 namespace lumo {
 namespace {
 
+constexpr double kCaseRadius = 16.0;
 constexpr QColor kBlockColor{0x29, 0x29, 0x2C};
 
 QLinearGradient downwards(const QRectF& rect, const QGradientStops& stops) {
@@ -48,14 +49,14 @@ void paintShadow(QPainter& painter) {
 void paintBody(QPainter& painter) {
     painter.setBrush(downwards(
         kCaseRect, {{0, QColor(0x3C3C41)}, {0.06, QColor(0x313135)}, {0.9, QColor(0x29292C)}, {1, QColor(0x212124)}}));
-    painter.drawRoundedRect(kCaseRect, 16, 16);
+    painter.drawPath(casePath());
     const QLinearGradient edge = downwards(
         kCaseRect,
         {{0, withOpacity(Qt::white, 0.22)}, {0.12, withOpacity(Qt::white, 0.07)}, {1, withOpacity(Qt::white, 0.03)}});
     painter.strokePath(
         [] {
             QPainterPath path;
-            path.addRoundedRect(kCaseRect.adjusted(0.5, 0.5, -0.5, -0.5), 15.5, 15.5);
+            path.addRoundedRect(kCaseRect.adjusted(0.5, 0.5, -0.5, -0.5), kCaseRadius - 0.5, kCaseRadius - 0.5);
             return path;
         }(),
         QPen(edge, 1));
@@ -77,6 +78,12 @@ void paintBlock(QPainter& painter) {
 }
 
 }  // namespace
+
+QPainterPath casePath() {
+    QPainterPath path;
+    path.addRoundedRect(kCaseRect, kCaseRadius, kCaseRadius);
+    return path;
+}
 
 QPainterPath wellPath() { return plate() - blockPath(); }
 

@@ -11,6 +11,9 @@ namespace lumo {
 inline constexpr QRectF kCaseRect{5.0, 13.0, 641.0, 223.0};
 inline constexpr QRectF kWellRect{13.0, 23.0, 625.0, 203.0};
 
+/// The case's outline, without its shadow.
+[[nodiscard]] QPainterPath casePath();
+
 /// Where the keys stand and their light is seen: the plate without the block in its upper right corner.
 [[nodiscard]] QPainterPath wellPath();
 

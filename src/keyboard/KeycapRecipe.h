@@ -21,6 +21,7 @@ struct KeycapLook {
     bool isModifier = false;  // a darker cap
     double hover = 0.0;       // 0 to 1
     double press = 0.0;       // 0 to 1
+    double legendRise = 0.0;  // of the legend's middle above the face's, in points
 };
 
 /// A pixel of the cap, 0 to 1: opacity of the cap, its colour unlit and in full black light (already shared out by

@@ -35,7 +35,8 @@ KeycapSprite::KeycapSprite(const QRectF& key, double scale, const KeycapLook& lo
     m_plain.perColor.resize(lanes);
     m_plain.perGlow.resize(lanes);
     draw(KeycapRecipe(points, look, scale), scale);
-    addHalo(faceOf(points, look.press).center() * scale, kHaloRadius * scale);
+    const QPointF legend = faceOf(points, look.press).center() - QPointF(0.0, look.legendRise);
+    addHalo(legend * scale, kHaloRadius * scale);
     findBodies();
 }
 

@@ -42,17 +42,14 @@ QImage onWindow(const QImage& caseImage) {
     return ground;
 }
 
-/// The plate takes the light of the keys, and the desk takes it through what the case leaves open.
-QImage drawLightMask(const DeviceGrid& grid, const QImage& caseImage) {
-    QImage mask(caseImage.size(), QImage::Format_Grayscale8);
-    for (int y = 0; y < mask.height(); ++y) {
-        const auto* const above = reinterpret_cast<const QRgb*>(caseImage.constScanLine(y));
-        std::transform(above, above + mask.width(), mask.scanLine(y),
-                       [](QRgb pixel) { return static_cast<uchar>(255 - qAlpha(pixel)); });
-    }
+/// The plate takes the light of the keys, and so does the desk around the case, also where the case shades it.
+QImage drawLightMask(const DeviceGrid& grid) {
+    QImage mask = wholeBlocks(grid, QImage::Format_Grayscale8);
+    mask.fill(Qt::white);
     QPainter painter(&mask);
     painter.setTransform(grid.toPixels());
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(casePath(), Qt::black);
     painter.fillPath(wellPath(), Qt::white);
     return mask;
 }
@@ -76,15 +73,18 @@ PictureLayers::PictureLayers(const DeviceGrid& grid, const std::vector<KeyCap>& 
 PictureLayers::Cap PictureLayers::makeCap(const KeyCap& key, const KeyTouch& touch) {
     const QRectF rect = m_grid.toPixels().mapRect(rectOf(key));
     const QPoint corner = m_grid.pixelsAround(capBounds(rectOf(key))).topLeft();
-    const auto drawn = sprite(rect.translated(-corner), {isModifier(key), touch.hover, touch.press});
-    const KeyLegend legend = legendOf(key, faceOf(rectOf(key), touch.press));
+    const QRectF face = faceOf(rectOf(key), touch.press);
+    const auto drawn =
+        sprite(rect.translated(-corner), {isModifier(key), touch.hover, touch.press, legendRise(key, face)});
+    const KeyLegend legend = legendOf(key, face);
     return {drawn, corner, LegendMask(legend.main, m_grid), LegendMask(legend.fn, m_grid)};
 }
 
 std::shared_ptr<const KeycapSprite> PictureLayers::sprite(const QRectF& inPixel, const KeycapLook& look) {
     const auto draw = [&] { return std::make_shared<const KeycapSprite>(inPixel, m_grid.scale, look); };
     if (look.hover > 0.0 || look.press > 0.0) return draw();
-    auto& known = m_sprites[{inPixel.width(), inPixel.height(), look.isModifier, inPixel.x(), inPixel.y()}];
+    auto& known =
+        m_sprites[{inPixel.width(), inPixel.height(), look.isModifier, look.legendRise, inPixel.x(), inPixel.y()}];
     if (!known) known = draw();
     return known;
 }
@@ -108,8 +108,7 @@ std::vector<CapCover> PictureLayers::covers() const {
 }
 
 GlowPass PictureLayers::makeGlow(const QImage& picture) const {
-    const QImage caseImage = drawCase(m_grid, picture);
-    return {m_grid, onWindow(caseImage), drawLightMask(m_grid, caseImage), covers()};
+    return {m_grid, onWindow(drawCase(m_grid, picture)), drawLightMask(m_grid), covers()};
 }
 
 void PictureLayers::setTouch(std::size_t key, const KeyTouch& touch) {

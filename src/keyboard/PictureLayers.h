@@ -42,8 +42,8 @@ private:
         LegendMask legend;
         LegendMask fnLegend;
     };
-    // Width, height, kind, and the place in the first pixel: caps that share these look the same.
-    using Likeness = std::tuple<double, double, bool, double, double>;
+    // Width, height, kind, the legend's place, and the cap's in the first pixel: caps that share these look the same.
+    using Likeness = std::tuple<double, double, bool, double, double, double>;
 
     [[nodiscard]] Cap makeCap(const KeyCap& key, const KeyTouch& touch);
     [[nodiscard]] std::shared_ptr<const KeycapSprite> sprite(const QRectF& inPixel, const KeycapLook& look);

@@ -4,10 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <QDirIterator>
+#include <QPainterPath>
+#include <QPainterPathStroker>
+#include <QTransform>
 #include <algorithm>
 #include <cctype>
 #include <set>
 #include <string>
+
+#include "keyboard/KeyboardCase.h"
 
 namespace lumo {
 namespace {
@@ -62,6 +67,23 @@ std::string testName(const testing::TestParamInfo<Export>& info) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, Artwork, testing::ValuesIn(artwork::kExports), testName);
+
+/// Qt SVG cuts the radii of wide rectangles to whole percents, and their corners lie elsewhere then.
+TEST(KeyboardArtwork, TheCaseHasTheCornersThatLightIsKeptOffBy) {
+    constexpr double kPixels = 2.0;  // of a point
+    const QImage shipped(kFolder + "/keyimg.png");
+    const QPainterPath body = QTransform::fromScale(kPixels, kPixels).map(casePath());
+    QPainterPathStroker edge;
+    edge.setWidth(1.5);  // a pixel in it may belong to both
+    const QPainterPath rim = edge.createStroke(body);
+    for (int y = 0; y < shipped.height(); ++y) {
+        for (int x = 0; x < shipped.width(); ++x) {
+            const QPointF middle(x + 0.5, y + 0.5);
+            if (rim.contains(middle)) continue;
+            ASSERT_EQ(qAlpha(shipped.pixel(x, y)) == 255, body.contains(middle)) << x << ", " << y;
+        }
+    }
+}
 
 std::set<QString> filesBelow(const QString& folder, const QString& ending) {
     std::set<QString> files;
