@@ -37,14 +37,25 @@ double blurredDisc(double distance, double radius, double sigma) {
     return sum * (radius / kRings) * (2.0 * std::numbers::pi / kSpokes) / (2.0 * std::numbers::pi * sigma * sigma);
 }
 
-QRadialGradient glow(QPointF centre, QColor color, double opacity, double sigma) {
+/// What the dot throws around it: a blurred disc, wider than the dot by `spread`.
+struct Glow {
+    QColor color;
+    double opacity = 1.0;
+    double spread = 0.0;  // points
+    double sigma = 1.0;   // points
+};
+constexpr Glow kConnectedGlow{theme::kOk, 0.55, 1.0, 3.0};
+constexpr Glow kDisconnectedGlow{theme::kAccentLine, 0.60, 2.0, 4.0};
+
+QRadialGradient paintOf(const Glow& glow, QPointF centre) {
     constexpr int kStops = 16;
     constexpr double kReach = ConnectionDot::kDiameter / 2.0 + ConnectionDot::kGlowReach;
     QRadialGradient gradient(centre, kReach);
+    QColor color = glow.color;
     for (int stop = 0; stop < kStops; ++stop) {
         const double at = static_cast<double>(stop) / kStops;
-        const double strength = blurredDisc(at * kReach, ConnectionDot::kDiameter / 2.0, sigma);
-        color.setAlphaF(static_cast<float>(opacity * strength));
+        const double strength = blurredDisc(at * kReach, ConnectionDot::kDiameter / 2.0 + glow.spread, glow.sigma);
+        color.setAlphaF(static_cast<float>(glow.opacity * strength));
         gradient.setColorAt(at, color);
     }
     gradient.setColorAt(1.0, Qt::transparent);
@@ -67,8 +78,7 @@ void ConnectionDot::setConnected(bool connected) {
 }
 
 void ConnectionDot::applyState() {
-    const QPointF centre = QRectF(rect()).center();
-    m_glow = m_connected ? glow(centre, theme::kOk, 0.55, 3.0) : glow(centre, theme::kAccentLine, 0.60, 4.0);
+    m_glow = paintOf(m_connected ? kConnectedGlow : kDisconnectedGlow, QRectF(rect()).center());
     setAccessibleName(m_connected ? "Connected" : "Disconnected");
 }
 

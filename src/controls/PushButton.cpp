@@ -30,7 +30,7 @@ constinit const ButtonLook kPlain{{{theme::kControl, theme::kControlHover, theme
                                   {}};
 constinit const ButtonLook kPrimary{withLine(kAccentSkin, theme::kPrimaryLine), {}};
 constinit const ButtonLook kLayer{{{theme::white(7), theme::white(12), theme::whitePerMille(45)},
-                                   {theme::kTextRow, theme::kTextRow, theme::kTextRow},
+                                   {theme::kTextRow, theme::white(100), theme::kTextRowPressed},
                                    kNone},
                                   kAccentSkin};
 constinit const ButtonLook kProfile{{{QColor(0x24, 0x24, 0x27), QColor(0x30, 0x30, 0x34), QColor(0x1E, 0x1E, 0x21)},

@@ -114,8 +114,9 @@ KeyLook KeyboardCanvas::lookOf(std::size_t index, double time) const {
                               m_link.primaryColor.get(),
                               m_state.brightnessLevel.get(),
                               m_state.speedLevel.get()};
-    return {view.lighting(), view.isSelected, showsRing() && index == m_current, m_motion.hover(index),
-            m_motion.press(index)};
+    const double press = m_motion.press(index);
+    const double hover = m_motion.hover(index) * (1.0 - press);  // a pressed key looks pressed, not hovered
+    return {view.lighting(), view.isSelected, showsRing() && index == m_current, hover, press};
 }
 
 void KeyboardCanvas::composeFrame() {

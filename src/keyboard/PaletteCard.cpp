@@ -24,7 +24,8 @@ constexpr int kSwatchTop = 26;  // from the heading's top
 constexpr int kSwatchHeight = 48;
 constexpr int kShortSwatchHeight = 30;
 constexpr int kTipLines = 3;
-constexpr int kTipGap = 14;
+constexpr int kTipGap = 14;  // above and below
+constexpr int kShortTipGap = 10;
 constexpr int kPrimaryHeight = 32;
 constexpr int kButtonHeight = 28;
 constexpr std::array<Column, 2> kToolColumns{Column{1.0}, Column{1.72}};
@@ -96,6 +97,7 @@ void PaletteCard::placeSwatches() {
 
 void PaletteCard::placeTools() {
     const int inner = width() - 2 * kPadding;
+    const int tipGap = theme::isShort(height()) ? kShortTipGap : kTipGap;
     const auto columns = divide(inner, kGap, kToolColumns);
     int y = height() - kPadding - kButtonHeight;
     m_fill->setGeometry(kPadding + columns[0].begin, y, columns[0].length, kButtonHeight);
@@ -103,9 +105,9 @@ void PaletteCard::placeTools() {
     y -= kGap + kPrimaryHeight;
     m_paint->setGeometry(kPadding, y, inner, kPrimaryHeight);
     const int tipHeight = kTipLines * theme::kDescriptionStyle.linePx;
-    y -= kTipGap + tipHeight;
+    y -= tipGap + tipHeight;
     m_tip->setGeometry(kPadding, y, inner, tipHeight);
-    m_lineY = y - kTipGap - 1;
+    m_lineY = y - tipGap - 1;
 }
 
 }  // namespace lumo

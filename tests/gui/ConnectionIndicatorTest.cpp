@@ -1,6 +1,8 @@
 // The dot and the text that say how the keyboard is connected.
 #include <gmock/gmock.h>
 
+#include <array>
+
 #include "app/ConnectionDot.h"
 #include "app/HeaderBar.h"
 #include "controls/TextLine.h"
@@ -17,6 +19,14 @@ protected:
         auto& dot = only<ConnectionDot>();
         return dot.grab().toImage().pixelColor(dot.dotRect().center());
     }
+
+    /// Of the window, two points below the dot.
+    std::array<int, 3> glowColor() {
+        const QRect dot = only<ConnectionDot>().dotRect();
+        const QPoint below = QPoint(dot.center().x(), dot.bottom() + 3) + rectOf(only<ConnectionDot>()).topLeft();
+        const QColor color = view->grab().toImage().pixelColor(below);
+        return {color.red(), color.green(), color.blue()};
+    }
 };
 
 TEST_F(ConnectionIndicator, IsVioletWithoutAKeyboard) {
@@ -28,6 +38,13 @@ TEST_F(ConnectionIndicator, TurnsGreenWithAKeyboardAndNamesIt) {
     connect();
     EXPECT_EQ(dotColor(), QColor(0x3D, 0xD6, 0x6E));
     EXPECT_EQ(connectionLine().text(), "Vexa Lumo 65 (Connected)");
+}
+
+TEST_F(ConnectionIndicator, GlowsInItsColor) {
+    const auto isAbout = [](int level) { return testing::AllOf(testing::Ge(level - 5), testing::Le(level + 5)); };
+    EXPECT_THAT(glowColor(), testing::ElementsAre(isAbout(49), isAbout(39), isAbout(73)));
+    connect();
+    EXPECT_THAT(glowColor(), testing::ElementsAre(isAbout(29), isAbout(48), isAbout(36)));
 }
 
 TEST_F(ConnectionIndicator, IsVioletAgainAfterAnUnplug) {

@@ -112,6 +112,19 @@ TEST_F(OnScreenKeyboard, ThePointerIsFollowedFromKeyToKey) {
     EXPECT_EQ(state().hoveredKeyId.get(), std::nullopt);
 }
 
+TEST_F(OnScreenKeyboard, APressedKeyLosesTheOutlineOfTheOneBelowThePointer) {
+    link().activeModeId.set(0);
+    time.settle();
+    const auto edge = [this] { return qRed(canvas().grab().toImage().pixel(94, 69)); };  // the upper one of Q
+    const int dark = edge();
+    movePointer(kQ);
+    time.settle();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return edge() > dark + 80; }));
+    QTest::mousePress(&canvas(), Qt::LeftButton, {}, kQ);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return edge() == dark; }));
+    QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, kQ);
+}
+
 TEST_F(OnScreenKeyboard, ClearEmptiesTheSelection) {
     choose("All");
     EXPECT_EQ(info(), "67 of 67 keys selected");
@@ -141,6 +154,24 @@ TEST_F(OnScreenKeyboard, TapHighlightsItsPillAndChangesNothingElse) {
     EXPECT_THAT(commandsSent(), IsEmpty());
     EXPECT_EQ(link().statusMessage.get(), status);
     EXPECT_THAT(selection(), IsEmpty());
+}
+
+TEST_F(OnScreenKeyboard, ALayersNameIsBrightBelowThePointerAndDimWhilePressed) {
+    PushControl& pill = control("FN1");
+    const auto brightest = [&pill] {
+        const QImage image = pill.grab().toImage();
+        int most = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) most = std::max(most, qRed(image.pixel(x, y)));
+        }
+        return most;
+    };
+    EXPECT_EQ(brightest(), 0xD8);
+    QTest::mouseMove(view->windowHandle(), rectOf(pill).center());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return brightest() == 0xFF; }));
+    QTest::mousePress(view->windowHandle(), Qt::LeftButton, {}, rectOf(pill).center());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return brightest() == 0xC4; }));
+    QTest::mouseRelease(view->windowHandle(), Qt::LeftButton, {}, rectOf(pill).center());
 }
 
 TEST_F(OnScreenKeyboard, ArrowsMoveFromKeyToKeyAndSpaceSelects) {

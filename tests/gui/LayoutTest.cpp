@@ -143,6 +143,7 @@ TEST_F(Layout, ThePaletteCardHasItsToolsAtTheFoot) {
     EXPECT_EQ(colorRect("Violet"), QRect(712, 378, 49, 48));
     EXPECT_EQ(colorRect("Green"), QRect(883, 378, 49, 48));
     EXPECT_EQ(colorRect("Yellow"), QRect(712, 434, 49, 48));
+    EXPECT_EQ(rectOf(*only<PaletteCard>().findChild<TextBlock*>()), QRect(712, 578, 220, 48));
     EXPECT_EQ(namedRect("Paint Selected (0)"), QRect(712, 640, 220, 32));
     EXPECT_EQ(namedRect("Fill All"), QRect(712, 680, 78, 28));
     EXPECT_EQ(namedRect("Rainbow Preset"), QRect(798, 680, 134, 28));
@@ -153,6 +154,7 @@ TEST_F(Layout, ThePaletteIsLowInTheSmallestWindow) {
     EXPECT_EQ(rectOf(only<PaletteCard>()), QRect(648, 340, 236, 300));
     EXPECT_EQ(colorRect("Violet"), QRect(660, 378, 47, 30));
     EXPECT_EQ(colorRect("White").bottom() + 1, 446);
+    EXPECT_EQ(rectOf(*only<PaletteCard>().findChild<TextBlock*>()), QRect(660, 502, 212, 48));
     EXPECT_EQ(namedRect("Paint Selected (0)"), QRect(660, 560, 212, 32));
 }
 
