@@ -8,6 +8,7 @@ namespace lumo {
 namespace {
 
 constexpr int kSliderTop = 20;
+static_assert(LevelSection::kRoom == Slider::kSideRoom);
 constexpr SliderRange kRange{0.0, LevelSection::kHighestLevel, 1.0};
 
 LevelSection::ValueText brightnessText(double level) {
@@ -22,7 +23,7 @@ LevelSection::ValueText speedText(double level) {
 }  // namespace
 
 LevelSection::LevelSection(std::string_view heading, TextOf textOf, MainQueue main, QWidget* parent)
-    : Section(heading, parent),
+    : Section(heading, parent, kRoom),
       m_textOf(std::move(textOf)),
       m_value(new TextLine(theme::kValueStyle, theme::kText, this)),
       m_unit(new TextLine(theme::kUnitStyle, theme::kTextMinor, this)),
@@ -42,15 +43,16 @@ void LevelSection::setLevel(double level) {
 
 void LevelSection::resizeEvent(QResizeEvent* event) {
     Section::resizeEvent(event);
-    m_slider->placeHitArea(QRect(0, kSliderTop, width(), Slider::kHitHeight));
+    m_slider->placeHitArea(QRect(kRoom, kSliderTop, width() - 2 * kRoom, Slider::kHitHeight));
     placeValue();
 }
 
 void LevelSection::placeValue() {
     const int unitWidth = m_unit->sizeHint().width();
     const int valueWidth = m_value->sizeHint().width();
-    m_unit->setGeometry(width() - unitWidth, 0, unitWidth, kHeadingHeight);
-    m_value->setGeometry(width() - unitWidth - valueWidth, 0, valueWidth, kHeadingHeight);
+    const int unitX = width() - kRoom - unitWidth;
+    m_unit->setGeometry(unitX, 0, unitWidth, kHeadingHeight);
+    m_value->setGeometry(unitX - valueWidth, 0, valueWidth, kHeadingHeight);
 }
 
 LevelSection* makeBrightnessSection(MainQueue main, QWidget* parent) {

@@ -18,6 +18,7 @@ class LevelSection final : public Section {
 
 public:
     static constexpr int kHeight = 44;
+    static constexpr int kRoom = 6;  // beside its texts and its track, for a knob at an end of the track
     static constexpr double kHighestLevel = 4.0;
 
     /// What the value reads: a text, and a small unit beside it that may be empty.

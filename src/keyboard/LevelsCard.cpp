@@ -54,8 +54,9 @@ void LevelsCard::paintEvent(QPaintEvent*) {
 void LevelsCard::resizeEvent(QResizeEvent*) {
     constexpr int kPadding = theme::kCardPadding;
     const int inner = width() - 2 * kPadding;
-    m_brightness->setGeometry(kPadding, kPadding, inner, LevelSection::kHeight);
-    m_speed->setGeometry(kPadding, kPadding + kPitch, inner, LevelSection::kHeight);
+    const QRect level(kPadding - LevelSection::kRoom, kPadding, inner + 2 * LevelSection::kRoom, LevelSection::kHeight);
+    m_brightness->setGeometry(level);
+    m_speed->setGeometry(level.translated(0, kPitch));
     const int spectrumTop = kPadding + 2 * kPitch;
     m_spectrum->setGeometry(kPadding, spectrumTop, inner, height() - spectrumTop);
 

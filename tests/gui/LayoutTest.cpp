@@ -129,6 +129,17 @@ TEST_F(Layout, TheLevelsCardHoldsSlidersAndWheel) {
     EXPECT_NEAR(wheelDiameter(), 0.98 * 196, 0.5);
 }
 
+TEST_F(Layout, NothingIsCutOffTheSlidersTheWheelAndTheSwatches) {
+    show({900, 680});
+    std::vector<QWidget*> roomy{&only<ColorWheel>()};
+    for (Slider* const slider : view->findChildren<Slider*>()) roomy.push_back(slider);
+    for (ColorSwatch* const swatch : view->findChildren<ColorSwatch*>()) roomy.push_back(swatch);
+    ASSERT_EQ(roomy.size(), 11U);
+    for (const QWidget* const each : roomy) {
+        EXPECT_EQ(each->visibleRegion().boundingRect(), each->rect()) << each->accessibleName().toStdString();
+    }
+}
+
 TEST_F(Layout, TheWheelGrowsAndShrinksWithItsCard) {
     show({900, 680});
     EXPECT_EQ(rectOf(only<LevelsCard>()), QRect(424, 340, 212, 300));
