@@ -114,7 +114,7 @@ void ColorWheel::end() {
 }
 
 void ColorWheel::follow(const Color& color) {
-    if (toBytes(color) == toBytes(Color::fromHsb(m_hue, m_saturation, 1.0))) return;
+    if (toBytes(color) == toBytes(markerColor())) return;
     const Hsb hsb = toHsb(color);
     moveMarker(hsb.hue, hsb.saturation);
 }

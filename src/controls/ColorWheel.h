@@ -43,7 +43,7 @@ public:
     QAccessibleInterface* makeAccessible() override;
 
 signals:
-    /// At once, then at most every 200 ms while it changes, and the last one when the user lets go.
+    /// At every press, then at most every 200 ms while it changes, and the last one when the user lets go.
     void picked(lumo::Color color);
 
 protected:
@@ -63,12 +63,13 @@ private:
 
     [[nodiscard]] QRectF pictureRect() const;
     [[nodiscard]] bool isOnDisc(const QPointF& place) const;
-    void pickAt(const QPointF& place);
-    void pick(double hue, double saturation);
+    void moveMarkerTo(const QPointF& place);
+    void dragTo(const QPointF& place);
     void end();
     void follow(const Color& color);
     void moveMarker(double hue, double saturation);
     void updateMarker();
+    [[nodiscard]] Color markerColor() const { return Color::fromHsb(m_hue, m_saturation, 1.0); }
 
     // Not kept as a colour: at the centre the hue would be lost, and near it most of its precision.
     double m_hue = 0.0;

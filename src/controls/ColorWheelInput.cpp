@@ -46,16 +46,16 @@ bool ColorWheel::isOnDisc(const QPointF& place) const {
     return std::hypot(from.x(), from.y()) <= disc.width() / 2.0;
 }
 
-void ColorWheel::pickAt(const QPointF& place) {
+void ColorWheel::moveMarkerTo(const QPointF& place) {
     const QRectF disc = discRect();
     const QPointF from = place - disc.center();
     const double hue = withinCircle(std::atan2(-from.y(), from.x()) / (2.0 * std::numbers::pi));
-    pick(hue, std::min(1.0, std::hypot(from.x(), from.y()) / (disc.width() / 2.0)));
+    moveMarker(hue, std::min(1.0, std::hypot(from.x(), from.y()) / (disc.width() / 2.0)));
 }
 
-void ColorWheel::pick(double hue, double saturation) {
-    moveMarker(hue, saturation);
-    m_reports.offer(Color::fromHsb(hue, saturation, 1.0));
+void ColorWheel::dragTo(const QPointF& place) {
+    moveMarkerTo(place);
+    m_reports.offer(markerColor());
 }
 
 void ColorWheel::focusInEvent(QFocusEvent* event) {
@@ -68,19 +68,20 @@ void ColorWheel::mousePressEvent(QMouseEvent* event) {
     m_hasKeyboardFocus = false;  // the focus may have been here before the mouse was
     end();
     m_use = Use::pointer;
-    pickAt(event->position());
+    moveMarkerTo(event->position());
+    m_reports.begin(markerColor());  // also the colour it has: there may be other keys to paint by now
 }
 
 void ColorWheel::mouseMoveEvent(QMouseEvent* event) {
     if (m_use != Use::pointer) return;
     if (!(event->buttons() & Qt::LeftButton)) return end();  // the release went elsewhere
-    pickAt(event->position());
+    dragTo(event->position());
 }
 
 void ColorWheel::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
     if (m_use != Use::pointer) return;
-    pickAt(event->position());
+    dragTo(event->position());
     end();
 }
 
@@ -92,7 +93,8 @@ void ColorWheel::keyPressEvent(QKeyEvent* event) {
     }
     if (m_use == Use::pointer) return;
     m_use = Use::keys;
-    pick(withinCircle(m_hue + way->hue), std::clamp(m_saturation + way->saturation, 0.0, 1.0));
+    moveMarker(withinCircle(m_hue + way->hue), std::clamp(m_saturation + way->saturation, 0.0, 1.0));
+    m_reports.offer(markerColor());
 }
 
 void ColorWheel::keyReleaseEvent(QKeyEvent* event) {

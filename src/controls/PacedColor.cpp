@@ -14,6 +14,10 @@ void PacedColor::offer(const Color& color) {
         m_waiting = color;
         return;
     }
+    begin(color);
+}
+
+void PacedColor::begin(const Color& color) {
     m_pause = m_main.run.repeatEvery(m_pace, [this] { tick(); });
     send(color);
 }

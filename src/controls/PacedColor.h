@@ -11,7 +11,7 @@
 namespace lumo {
 
 /// Main thread. A change is reported at once, further ones at most once every `pace`, always the latest, so that a slow
-/// listener never has more than that to do. What gives the same bytes is no change.
+/// listener never has more than that to do.
 class PacedColor final {
 public:
     using Report = std::function<void(const Color&)>;
@@ -21,6 +21,10 @@ public:
     void setKnown(const Color& color) { m_known = color; }
     [[nodiscard]] const Color& known() const { return m_known; }
 
+    /// Reported at once, also when the listener holds it already.
+    void begin(const Color& color);
+
+    /// What gives the same bytes as the listener holds is no change.
     void offer(const Color& color);
 
     /// Reports what still waits; the next change is reported at once again.

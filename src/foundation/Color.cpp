@@ -32,6 +32,7 @@ Color Color::fromHsb(double hue, double saturation, double brightness) {
     const double rising = brightness * (1.0 - saturation * (1.0 - fraction));
     switch (static_cast<int>(sector)) {
         case 0:
+        case 6:  // a hue so little below 0 that it is rounded to the full circle
             return {brightness, rising, low};
         case 1:
             return {falling, brightness, low};

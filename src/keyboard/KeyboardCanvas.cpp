@@ -16,8 +16,6 @@
 namespace lumo {
 namespace {
 
-constexpr QSize kSize{650, 247};
-
 QImage caseAndCaps() {
     const QImage* const picture = AssetManager::shared().image("keyimg.png");
     return picture ? *picture : QImage();
@@ -65,7 +63,7 @@ KeyboardCanvas::KeyboardCanvas(VexaProtocol& link, UIState& state, KeyboardModel
       m_linkChanges(link.observe([this] { m_refresh.request(); })),
       m_stateChanges(state.observe([this] { m_refresh.request(); })),
       m_keyboardChanges(keyboard.observe([this] { m_refresh.request(); })) {
-    setFixedSize(kSize);
+    setFixedSize(kPictureSize.toSize());
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -24,8 +24,10 @@ class KeyboardCanvas final : public QWidget, public AccessibleSource {
     Q_OBJECT
 
 public:
-    static constexpr double keyimgWidth = 650.0;   // NOLINT(readability-identifier-naming): the picture's own name
-    static constexpr double keyimgHeight = 247.0;  // NOLINT(readability-identifier-naming)
+    // NOLINTBEGIN(readability-identifier-naming): the picture's own name
+    static constexpr double keyimgWidth = kPictureSize.width();
+    static constexpr double keyimgHeight = kPictureSize.height();
+    // NOLINTEND(readability-identifier-naming)
 
     /// Seconds from any origin, for the effects' motion.
     using Clock = std::function<double()>;

@@ -1,5 +1,6 @@
 #include "keyboard/LevelSection.h"
 
+#include "controls/PlainText.h"
 #include "controls/Slider.h"
 #include "controls/TextLine.h"
 #include "controls/Theme.h"
@@ -28,7 +29,7 @@ LevelSection::LevelSection(std::string_view heading, TextOf textOf, MainQueue ma
       m_value(new TextLine(theme::kValueStyle, theme::kText, this)),
       m_unit(new TextLine(theme::kUnitStyle, theme::kTextMinor, this)),
       m_slider(new Slider(kRange, main, this)) {
-    m_slider->setAccessibleName(QString::fromUtf8(heading.data(), static_cast<qsizetype>(heading.size())));
+    m_slider->setAccessibleName(plainText(heading));
     connect(m_slider, &Slider::valueChanged, this, &LevelSection::levelChanged);
     connect(m_slider, &Slider::editingChanged, this, &LevelSection::edited);
 }

@@ -42,6 +42,12 @@ TEST(Color, HuesAroundTheCircle) {
     EXPECT_EQ(toBytes(Color::fromHsb(0.4, 0.0, 0.5)), (ColorBytes{127, 127, 127}));
 }
 
+TEST(Color, AHueTooCloseToTheFullCircleToTellIsRed) {
+    constexpr Color kRed{1.0, 0.0, 0.0};
+    EXPECT_EQ(Color::fromHsb(1.0, 1.0, 1.0), kRed);
+    EXPECT_EQ(Color::fromHsb(-1e-17, 1.0, 1.0), kRed);
+}
+
 TEST(Color, HueSaturationAndBrightnessOfKnownColors) {
     const auto expect = [](const Color& color, double hue, double saturation, double brightness) {
         const Hsb hsb = toHsb(color);

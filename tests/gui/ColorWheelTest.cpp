@@ -106,21 +106,28 @@ TEST_F(Wheel, TheFirstChangeIsReportedAtOnceAndLaterOnesTwoHundredMillisecondsAp
     EXPECT_EQ(reported.size(), 3U);
 }
 
-TEST_F(Wheel, TheSameColorIsNoChange) {
+TEST_F(Wheel, TheSameColorIsNoChangeDuringADrag) {
     press(248, 120);
     moveTo(150, 22);
     moveTo(248, 120);
     time.advance(milliseconds(1000));
+    moveTo(249, 120);
     release(248, 120);
     EXPECT_EQ(reportedBytes(), (Bytes{{255, 0, 0}}));
+}
+
+TEST_F(Wheel, EveryPressPicksAlsoTheColorItHas) {
+    press(248, 120);
+    release(248, 120);
     wheel.setColor(reported.back());
     press(248, 120);
+    EXPECT_EQ(reportedBytes(), (Bytes{{255, 0, 0}, {255, 0, 0}}));
     release(248, 120);
-    EXPECT_EQ(reported.size(), 1U);
     wheel.setColor(Color{0.0, 1.0, 0.0});  // somebody else's
     press(248, 120);
+    time.advance(milliseconds(1000));
     release(248, 120);
-    EXPECT_EQ(reportedBytes(), (Bytes{{255, 0, 0}, {255, 0, 0}}));
+    EXPECT_EQ(reportedBytes(), (Bytes{{255, 0, 0}, {255, 0, 0}, {255, 0, 0}}));
 }
 
 TEST_F(Wheel, APickGivenBackByTheModelLeavesTheMarkerWhereItIs) {

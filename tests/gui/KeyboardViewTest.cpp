@@ -103,6 +103,13 @@ TEST_F(OnScreenKeyboard, AReleaseElsewhereIsNoClick) {
     EXPECT_THAT(selection(), IsEmpty());
 }
 
+TEST_F(OnScreenKeyboard, AKeyHeldWhileTheFocusGoesElsewhereIsNotClicked) {
+    QTest::mousePress(&canvas(), Qt::LeftButton, {}, kQ);
+    control("WASD").setFocus(Qt::OtherFocusReason);
+    QTest::mouseRelease(&canvas(), Qt::LeftButton, {}, kQ);
+    EXPECT_THAT(selection(), IsEmpty());
+}
+
 TEST_F(OnScreenKeyboard, ThePointerIsFollowedFromKeyToKey) {
     movePointer(kQ);
     EXPECT_EQ(state().hoveredKeyId.get(), "K17");

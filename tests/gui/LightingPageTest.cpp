@@ -5,7 +5,7 @@
 #include <QWindow>
 
 #include "controls/ColorWheel.h"
-#include "controls/PushControl.h"
+#include "controls/PushButton.h"
 #include "controls/Slider.h"
 #include "controls/TextLine.h"
 #include "gui/WindowFixture.h"
@@ -152,6 +152,19 @@ TEST_F(LightingPage, ThePickedColorDoesWhatASwatchDoes) {
     EXPECT_THAT(commandsSent(), ElementsAre(0x8A, 0x0A, 0x84, 0x04));
 }
 
+TEST_F(LightingPage, TheChosenColorPickedAgainPaintsTheNewSelection) {
+    link().activeModeId.set(21);
+    auto& wheel = only<ColorWheel>();
+    const QPoint place = (wheel.discRect().center() + QPointF(40.0, 0.0)).toPoint();
+    for (const std::string_view group : {"WASD", "Arrows"}) {
+        keyboard().selectPresetGroup(group);
+        QTest::mouseClick(&wheel, Qt::LeftButton, {}, place);
+        time.settle();
+    }
+    EXPECT_EQ(keysOf(state().selectedColor.get()), 4 + 4);
+    EXPECT_THAT(commandsSent(), ElementsAre(0x09, 0x09, 0x06, 0x84, 0x04, 0x09, 0x09, 0x06, 0x84, 0x04));
+}
+
 TEST_F(LightingPage, ADraggedWheelSendsAtMostFiveColorsASecondAndTheLastOne) {
     hid.unplugAll();  // a command to nobody takes no time: the clock below is the drag's alone
     time.settle();
@@ -170,6 +183,23 @@ TEST_F(LightingPage, ADraggedWheelSendsAtMostFiveColorsASecondAndTheLastOne) {
     EXPECT_EQ(picks, 6);  // at once, after 200, 400, 600 and 800 ms, and on release
     EXPECT_EQ(link().primaryColor.get(), toBytes(state().selectedColor.get()));
     EXPECT_LT(link().primaryColor.get().g, 110);  // where the pointer was let go, near the rim
+}
+
+TEST_F(LightingPage, TheToolsHaveTheirSymbols) {
+    const auto expectSymbol = [this](const QString& text, const ButtonLook& look, const QString& symbol) {
+        PushControl& shown = control(text);
+        PushButton same(text, look, nullptr);
+        same.setSymbol(symbol);
+        same.resize(shown.size());
+        const QRect inside = shown.rect().adjusted(4, 4, -4, -4);  // a button of its own has a ground at its corners
+        const auto pixels = [&inside](QWidget& button) {
+            return button.grab(inside).toImage().convertToFormat(QImage::Format_RGB32);
+        };
+        EXPECT_EQ(pixels(shown), pixels(same)) << symbol.toStdString();
+    };
+    expectSymbol("Paint Selected (0)", look::kPrimary, "paintbrush.fill");
+    expectSymbol("Rainbow Preset", look::kPlain, "rainbow");
+    expectSymbol("Fill All", look::kPlain, "");
 }
 
 TEST_F(LightingPage, PaintSelectedCountsAndPaints) {

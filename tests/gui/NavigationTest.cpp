@@ -2,11 +2,13 @@
 #include <gmock/gmock.h>
 
 #include <QAction>
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "app/NaviPillButton.h"
 #include "app/PageArea.h"
+#include "controls/ColorWheel.h"
 #include "controls/TextLine.h"
 #include "gui/CurrentFolder.h"
 #include "gui/WindowFixture.h"
@@ -128,6 +130,23 @@ TEST_F(NavigationWithoutArtwork, APillShowsItsSymbolAndWorks) {
     EXPECT_GE(bright, 3);
     QTest::mouseClick(&pill, Qt::LeftButton);
     EXPECT_EQ(state().currentTab.get(), NavTab::music);
+}
+
+TEST_F(NavigationWithoutArtwork, KeyboardAndWheelShowThePicturesOfThatFolder) {
+    QImage teal(30, 30, QImage::Format_RGB32);
+    teal.fill(Qt::darkCyan);
+    ASSERT_TRUE(QDir().mkpath(empty.filePath("assets")));
+    ASSERT_TRUE(teal.save(empty.filePath("assets/keyimg.png")));
+    ASSERT_TRUE(teal.save(empty.filePath("assets/colorwheel.png")));
+    link().activeModeId.set(0);
+    MainView view(nullptr);
+    view.resize(960, 760);
+    const QImage keys = view.findChild<KeyboardCanvas*>()->grab().toImage();
+    for (const QPoint corner : {QPoint(0, 0), QPoint(649, 0), QPoint(0, 246), QPoint(649, 246)}) {
+        EXPECT_EQ(keys.pixelColor(corner), QColor(Qt::darkCyan));
+    }
+    auto& wheel = *view.findChild<ColorWheel*>();
+    EXPECT_EQ(wheel.grab().toImage().pixelColor(wheel.discRect().center().toPoint()), QColor(Qt::darkCyan));
 }
 
 TEST_F(NavigationWithoutArtwork, TheWholeWindowIsUsable) {

@@ -73,6 +73,14 @@ TEST_F(Lighting, Effect1ShowsTheChosenColorOnEveryKeyBeforeTheCommandIsSent) {
     EXPECT_THAT(commandsSent(), ElementsAre(0x8A, 0x0A, 0x84, 0x04));
 }
 
+TEST_F(Lighting, Effect1PublishesTheKeysBeforeWhatIsSent) {
+    std::vector<std::string> writes;
+    const auto ofLink = link().observe([&writes] { writes.emplace_back("link"); });
+    const auto ofKeys = keyboard().observe([&writes] { writes.emplace_back("keys"); });
+    actions.chooseEffect(1);
+    EXPECT_THAT(writes, ElementsAre("link", "keys", "link", "link", "link", "link"));
+}
+
 TEST_F(Lighting, OtherEffectsLeaveTheKeysColorsAlone) {
     state().selectedColor.set(Color{0.0, 1.0, 0.0});
     actions.chooseEffect(2);

@@ -25,6 +25,8 @@ TEST(SelectionText, SeveralKeysAreCounted) {
     EXPECT_EQ(textFor({"K2", "K3"}), "2 of 67 keys selected");
 }
 
+TEST(SelectionText, TheCountIsAlwaysOf67) { EXPECT_EQ(selectionText({}, {"K2", "K3"}), "2 of 67 keys selected"); }
+
 TEST(SelectionText, AnIdThatNoKeyHasIsCountedAllTheSame) { EXPECT_EQ(textFor({"K99"}), "1 of 67 keys selected"); }
 
 }  // namespace
