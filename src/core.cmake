@@ -23,6 +23,7 @@ add_library(lumo_core STATIC
     keyboard/LightingEngine.cpp
     keyboard/SelectionText.cpp
     macro/MacroItem.cpp
+    system/PermissionManager.cpp
 )
 target_include_directories(lumo_core PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(lumo_core PUBLIC Threads::Threads PRIVATE lumo_options)

@@ -105,7 +105,7 @@ target_include_directories(lumo_ui PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(lumo_ui PUBLIC lumo_core lumo_platform Qt6::Widgets PRIVATE lumo_options Qt6::Svg)
 if(NOT APPLE)
     find_package(Qt6 6.4 REQUIRED COMPONENTS DBus)
-    target_sources(lumo_ui PRIVATE platform/qt/MotionPreference.cpp)
+    target_sources(lumo_ui PRIVATE platform/qt/MotionPreference.cpp platform/qt/XdgDesktop.cpp platform/qt/XdgPreferences.cpp)
     target_link_libraries(lumo_ui PRIVATE Qt6::DBus)
 endif()
 

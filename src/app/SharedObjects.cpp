@@ -57,8 +57,17 @@ KeyboardModel& SharedObjects::keyboardModel() {
     return *m_keyboardModel;
 }
 
+PermissionManager& SharedObjects::permissionManager() {
+    if (!m_permissionManager) {
+        m_permissionManager = PermissionManager::make(m_platform.mainQueue(), m_platform.privacy(),
+                                                      m_platform.desktop(), m_platform.preferences());
+    }
+    return *m_permissionManager;
+}
+
 VexaProtocol& VexaProtocol::shared() { return SharedObjects::current().vexaProtocol(); }
 UIState& UIState::shared() { return SharedObjects::current().uiState(); }
 KeyboardModel& KeyboardModel::shared() { return SharedObjects::current().keyboardModel(); }
+PermissionManager& PermissionManager::shared() { return SharedObjects::current().permissionManager(); }
 
 }  // namespace lumo

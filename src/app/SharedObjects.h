@@ -7,6 +7,7 @@
 #include "device/VexaProtocol.h"
 #include "keyboard/KeyboardModel.h"
 #include "platform/Platform.h"
+#include "system/PermissionManager.h"
 
 namespace lumo {
 
@@ -29,6 +30,7 @@ public:
     [[nodiscard]] VexaProtocol& vexaProtocol();
     [[nodiscard]] UIState& uiState();
     [[nodiscard]] KeyboardModel& keyboardModel();
+    [[nodiscard]] PermissionManager& permissionManager();
 
     /// A place for the one that AssetManager::shared() makes. It is only named here, since it holds Qt images, which
     /// the models must not see; whoever fills the place also brings the way to delete it.
@@ -48,6 +50,7 @@ private:
     std::unique_ptr<VexaProtocol> m_vexaProtocol;
     std::unique_ptr<UIState> m_uiState;
     std::unique_ptr<KeyboardModel> m_keyboardModel;
+    std::shared_ptr<PermissionManager> m_permissionManager;
     std::shared_ptr<AssetManager> m_assetManager;
 };
 

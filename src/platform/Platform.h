@@ -6,7 +6,10 @@
 
 #include "foundation/RunLoop.h"
 #include "platform/Bundle.h"
+#include "platform/Desktop.h"
 #include "platform/Hid.h"
+#include "platform/Preferences.h"
+#include "platform/Privacy.h"
 
 namespace lumo {
 
@@ -27,6 +30,9 @@ public:
     [[nodiscard]] virtual std::unique_ptr<HidManager> makeHidManager(IoQueue io) = 0;
 
     [[nodiscard]] virtual Bundle& bundle() = 0;
+    [[nodiscard]] virtual Desktop& desktop() = 0;
+    [[nodiscard]] virtual Preferences& preferences() = 0;
+    [[nodiscard]] virtual Privacy& privacy() = 0;
 
     /// Any thread: one diagnostic line on the console, flushed at once.
     virtual void print(std::string_view line) = 0;

@@ -9,8 +9,7 @@
 
 #include "app/SharedObjects.h"
 #include "foundation/SerialQueue.h"
-#include "platform/Platform.h"
-#include "support/FakeBundle.h"
+#include "support/FakedPlatform.h"
 #include "support/OneDeviceManager.h"
 
 namespace lumo {
@@ -96,7 +95,7 @@ private:
     bool m_isReleased = false;
 };
 
-class ThreadedPlatform final : public Platform {
+class ThreadedPlatform final : public test::FakedPlatform {
 public:
     explicit ThreadedPlatform(std::shared_ptr<HidDevice> device) : m_device(std::move(device)) {}
     MainQueue mainQueue() override { return {loop}; }
@@ -104,13 +103,11 @@ public:
     std::unique_ptr<HidManager> makeHidManager(IoQueue) override {
         return std::make_unique<test::OneDeviceManager>(m_device);
     }
-    Bundle& bundle() override { return m_bundle; }
     void print(std::string_view) override {}
     HandTurnedLoop loop;
 
 private:
     std::shared_ptr<HidDevice> m_device;
-    test::FakeBundle m_bundle;
 };
 
 /// The handshake is exchanges 0 and 1, an effect 2 to 7, an upload 8 to 13.

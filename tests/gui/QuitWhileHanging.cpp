@@ -8,6 +8,7 @@
 #include "app/Program.h"
 #include "device/VexaProtocol.h"
 #include "platform/qt/NativePlatform.h"
+#include "support/FakedPlatform.h"
 #include "support/OneDeviceManager.h"
 
 namespace lumo {
@@ -45,7 +46,7 @@ private:
     std::binary_semaphore m_never{0};
 };
 
-class HangingPlatform final : public Platform {
+class HangingPlatform final : public test::FakedPlatform {
 public:
     explicit HangingPlatform(int hangsAt) : m_hangsAt(hangsAt) {}
     MainQueue mainQueue() override { return m_native.mainQueue(); }
@@ -55,7 +56,6 @@ public:
     std::unique_ptr<HidManager> makeHidManager(IoQueue) override {
         return std::make_unique<test::OneDeviceManager>(std::make_shared<HangingDevice>(mainQueue(), m_hangsAt));
     }
-    Bundle& bundle() override { return m_native.bundle(); }
     void print(std::string_view) override {}
 
 private:

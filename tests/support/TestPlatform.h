@@ -6,20 +6,18 @@
 #include <vector>
 
 #include "InProcessHidManager.h"
-#include "platform/Platform.h"
-#include "support/FakeBundle.h"
+#include "support/FakedPlatform.h"
 #include "support/VirtualTime.h"
 
 namespace lumo::test {
 
 /// Outlives the SharedObjects made from it. Plug the keyboard in before or after they exist.
-class TestPlatform final : public Platform {
+class TestPlatform final : public FakedPlatform {
 public:
     VirtualTime time;
     vk::FirmwareModel firmware;
     vk::ReportLog log;
     std::vector<std::string> console;
-    FakeBundle resources;
 
     /// The hardware side; its manager is handed out once, to the link.
     [[nodiscard]] vk::InProcessHidManager& hid() { return *m_hid; }
@@ -27,7 +25,6 @@ public:
     MainQueue mainQueue() override { return time.mainQueue(); }
     std::unique_ptr<BlockingExecutor> makeIoQueue(std::string_view label) override;
     std::unique_ptr<HidManager> makeHidManager(IoQueue io) override;
-    Bundle& bundle() override { return resources; }
     void print(std::string_view line) override { console.emplace_back(line); }
 
     std::string ioQueueLabel;

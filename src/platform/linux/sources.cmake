@@ -8,6 +8,7 @@ target_sources(lumo_platform PRIVATE
     platform/linux/LinuxHidManager.cpp
     platform/linux/NativeBundle.cpp
     platform/linux/NativeHid.cpp
+    platform/linux/NativePrivacy.cpp
     platform/linux/PrefixBundle.cpp
     platform/linux/ReportDescriptor.cpp
     platform/linux/Sysfs.cpp

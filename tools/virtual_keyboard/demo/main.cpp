@@ -12,24 +12,39 @@
 namespace {
 
 constexpr auto kUsage =
-    "Usage: vexa-lumo-65-demo [--log FILE]\n"
+    "Usage: vexa-lumo-65-demo [--log FILE] [--later-launch]\n"
     "\n"
-    "Vexa Lumo 65 on a virtual keyboard; no hardware needed.\n"
+    "Vexa Lumo 65 on a virtual keyboard, with a simulated privacy centre; no hardware needed.\n"
     "\n"
-    "  --log FILE   writes each transfer to FILE, one JSON line each\n"
-    "  --help       this text\n";
+    "  --log FILE      writes each transfer to FILE, one JSON line each\n"
+    "  --later-launch  starts as every launch but the first does\n"
+    "  --help          this text\n";
 
 [[noreturn]] void endWithUsage(int status) {
     std::fputs(kUsage, status == 0 ? stdout : stderr);
     std::exit(status);
 }
 
-/// Empty when no log is asked for.
-std::string logPath(const QStringList& arguments) {
-    if (arguments.size() == 1) return {};
-    if (arguments.size() == 2 && arguments[1] == "--help") endWithUsage(EXIT_SUCCESS);
-    if (arguments.size() != 3 || arguments[1] != "--log") endWithUsage(2);
-    return QFile::encodeName(arguments[2]).toStdString();
+struct Wishes {
+    std::string log;  // empty when none is asked for
+    bool isLaterLaunch = false;
+};
+
+Wishes readArguments(QStringList arguments) {
+    Wishes wishes;
+    arguments.removeFirst();
+    while (!arguments.isEmpty()) {
+        const QString wish = arguments.takeFirst();
+        if (wish == "--help") endWithUsage(EXIT_SUCCESS);
+        if (wish == "--later-launch") {
+            wishes.isLaterLaunch = true;
+        } else if (wish == "--log" && !arguments.isEmpty()) {
+            wishes.log = QFile::encodeName(arguments.takeFirst()).toStdString();
+        } else {
+            endWithUsage(2);
+        }
+    }
+    return wishes;
 }
 
 lumo::vk::ReportLog openLog(const std::string& path) try {
@@ -43,6 +58,8 @@ lumo::vk::ReportLog openLog(const std::string& path) try {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    lumo::vk::DemoPlatform platform(openLog(logPath(QCoreApplication::arguments())));
+    const Wishes wishes = readArguments(QCoreApplication::arguments());
+    lumo::vk::DemoPlatform platform(openLog(wishes.log));
+    if (wishes.isLaterLaunch) platform.setLaunchedBefore();
     lumo::runProgram(application, platform);
 }
