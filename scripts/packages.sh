@@ -16,7 +16,8 @@ compilerVersions() {
 
 packagesToBuild() {
     printf '%s\n' cmake ninja-build g++ pkg-config qt6-base-dev qt6-svg-dev libudev-dev nlohmann-json3-dev
-    printf '%s\n' qt6-wayland fonts-inter  # beside what it is built with: a window on Wayland, too, and its letters
+    # Beside what it is built with: a window on Wayland, too, its letters, and the one emoji among them.
+    printf '%s\n' qt6-wayland fonts-inter fonts-noto-color-emoji
 }
 
 # A screen in memory, keys and pictures for it.
@@ -37,7 +38,7 @@ packagesToTest() {
 # screen in memory whose accessibility tree can be read.
 packagesForKernel() {
     printf '%s\n' qemu-system-x86 qemu-system-data seabios busybox-static kmod cpio xz-utils udev
-    printf '%s\n' xvfb xdotool dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi python3
+    printf '%s\n' xvfb xdotool dbus-daemon at-spi2-core gir1.2-glib-2.0 python3-gi python3
 }
 
 formulasToBuild() { printf '%s\n' cmake ninja pkg-config qt nlohmann-json; }

@@ -10,30 +10,41 @@ add_library(lumo_ui STATIC
     app/NaviPillButton.cpp
     app/NavigationBar.cpp
     app/PageArea.cpp
+    app/PageVeil.cpp
     app/ProfileBar.cpp
     app/Program.cpp
     app/StatusBar.cpp
+    app/StatusChip.cpp
     controls/Accessible.cpp
+    controls/Appearance.cpp
+    controls/BrandMark.cpp
     controls/Card.cpp
     controls/ColorWheel.cpp
     controls/ColorWheelInput.cpp
     controls/Columns.cpp
+    controls/DropShadow.cpp
     controls/Fade.cpp
     controls/FocusGroup.cpp
     controls/FocusRing.cpp
+    controls/IconButton.cpp
     controls/InfoBox.cpp
     controls/Lettering.cpp
     controls/Motion.cpp
     controls/PacedColor.cpp
     controls/Panel.cpp
     controls/PlainText.cpp
+    controls/Popup.cpp
     controls/PopupMenu.cpp
     controls/PushButton.cpp
     controls/PushControl.cpp
+    controls/ScrollBar.cpp
+    controls/ScrollHint.cpp
     controls/Section.cpp
     controls/Slider.cpp
     controls/SliderInput.cpp
     controls/SliderLooks.cpp
+    controls/SoftShadow.cpp
+    controls/StateDot.cpp
     controls/Symbol.cpp
     controls/SymbolCache.cpp
     controls/TextBlock.cpp
@@ -73,6 +84,12 @@ add_library(lumo_ui STATIC
     platform/qt/QtRunLoop.cpp
     platform/qt/WindowSystem$<IF:$<BOOL:${APPLE}>,Mac,Xdg>.cpp
     platform/qt/WindowUpdates.cpp
+    system/PermissionExplainerRow.cpp
+    system/PermissionToast.cpp
+    system/PromptCard.cpp
+    system/RecheckPopup.cpp
+    system/ToastText.cpp
+    system/WelcomePopup.cpp
 )
 set_target_properties(lumo_ui PROPERTIES AUTOMOC ON)
 qt_add_resources(lumo_ui symbols PREFIX /symbols BASE controls/symbols FILES

@@ -7,7 +7,6 @@
 
 #include "controls/Panel.h"
 #include "controls/PopupMenu.h"
-#include "controls/Symbol.h"
 #include "controls/Theme.h"
 
 namespace lumo {
@@ -37,20 +36,7 @@ private:
     QMenu& m_menu;
 };
 
-QRectF scaled(const QRectF& rect, double factor) {
-    QRectF result(QPointF(), rect.size() * factor);
-    result.moveCenter(rect.center());
-    return result;
-}
-
 }  // namespace
-
-void BrandMark::paint(QPainter& painter, const QRectF& rect, const QColor& fill) const {
-    const QString hexagon = QStringLiteral("hexagon.fill");
-    // The violet hardly differs from the header: a lighter rim, about a point wide, keeps its outline.
-    paintSymbol(painter, scaled(rect, 1.07), hexagon, mix(fill, theme::kAccentLine, 0.6));
-    paintSymbol(painter, scaled(rect, 0.96), hexagon, fill);
-}
 
 BrandButton::BrandButton(QAction& quit, QWidget* parent) : QAbstractButton(parent), m_menu(makePopupMenu(this)) {
     m_menu->addAction(&quit);
@@ -76,6 +62,11 @@ void BrandButton::focusInEvent(QFocusEvent* event) {
     QAbstractButton::focusInEvent(event);
 }
 
+std::optional<RingShape> BrandButton::ring() const {
+    if (!hasFocus() || !m_showsRing) return std::nullopt;
+    return RingShape{rect(), theme::kSmallRadius + 3.0};
+}
+
 void BrandButton::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Return:
@@ -92,7 +83,6 @@ void BrandButton::keyPressEvent(QKeyEvent* event) {
 void BrandButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     m_mark.paint(painter, QRectF(kRoom, kRoom, kMarkSize, kMarkSize), fill());
-    if (hasFocus() && m_showsRing) paintFocusRing(painter, rect(), theme::kSmallRadius + 3.0);
 }
 
 void BrandButton::openMenu() {

@@ -4,26 +4,21 @@
 #include <QAbstractButton>
 
 #include "controls/Accessible.h"
+#include "controls/BrandMark.h"
 #include "controls/Fade.h"
+#include "controls/FocusRing.h"
 
 class QMenu;
 
 namespace lumo {
 
-/// The product's mark. Main thread.
-class BrandMark final {
-public:
-    /// Paints into a square, in a violet of its own choice or in a hovered or pressed one.
-    void paint(QPainter& painter, const QRectF& rect, const QColor& fill) const;
-};
-
 /// Main thread. A click opens the menu below the mark; so do Return and the arrow down.
-class BrandButton final : public QAbstractButton, public AccessibleSource {
+class BrandButton final : public QAbstractButton, public AccessibleSource, public RingWearer {
     Q_OBJECT
 
 public:
     static constexpr int kMarkSize = 20;
-    static constexpr int kRoom = 4;  // around the mark, for the focus ring
+    static constexpr int kRoom = 4;  // around the mark
 
     /// `quit` is the menu's one item and outlives this button.
     BrandButton(QAction& quit, QWidget* parent);
@@ -32,6 +27,7 @@ public:
 
     [[nodiscard]] QSize sizeHint() const override;
     QAccessibleInterface* makeAccessible() override;
+    [[nodiscard]] std::optional<RingShape> ring() const override;
 
 protected:
     bool event(QEvent* event) override;

@@ -12,10 +12,15 @@
 #include "app/SharedObjects.h"
 #include "app/StatusBar.h"
 #include "controls/FocusRing.h"
+#include "controls/Popup.h"
 #include "controls/Theme.h"
 #include "foundation/ReferenceDate.h"
 #include "keyboard/KeyboardView.h"
 #include "keyboard/LightingControlView.h"
+#include "system/PermissionManager.h"
+#include "system/PermissionToast.h"
+#include "system/RecheckPopup.h"
+#include "system/WelcomePopup.h"
 
 namespace lumo {
 namespace {
@@ -25,10 +30,17 @@ constexpr int kNavigationTop = 53;
 constexpr int kKeyboardTop = 92;
 constexpr int kPageTop = kKeyboardTop + KeyboardView::kHeight;
 constexpr int kPageToStatus = 12;
+constexpr int kToastRoom = PermissionToast::kSize.height() + kPageToStatus;
 
 MainQueue mainQueue() { return SharedObjects::current().mainQueue(); }
 
 double frameTime() { return secondsSinceReferenceDate(std::chrono::system_clock::now()); }
+
+/// The page area's left, top and width.
+QRect pageColumn(const QWidget& view) {
+    const int width = std::min(view.width() - 2 * theme::kWindowMargin, kWidestColumn);
+    return {(view.width() - width) / 2, kPageTop, width, 0};
+}
 
 /// Null for a page that does not exist yet.
 QWidget* makePage(NavTab tab) {
@@ -43,18 +55,24 @@ MainView::MainView(QAction* quit, QWidget* parent)
     : QWidget(parent),
       m_link(VexaProtocol::shared()),
       m_state(UIState::shared()),
+      m_permissions(PermissionManager::shared()),
       m_header(new HeaderBar(quit, this)),
       m_navigation(new NavigationBar(m_state.currentTab.get(), this)),
       m_keyboard(new KeyboardView(m_link, m_state, KeyboardModel::shared(), mainQueue(), frameTime, this)),
       m_page(new PageArea(this)),
       m_status(new StatusBar(this)),
+      m_toast(new PermissionToast(m_permissions, m_state, this)),
+      m_welcome(makeWelcomePopup(m_permissions, m_state, this)),
+      m_recheck(makeRecheckPopup(m_permissions, m_state, this)),
       m_refresh(mainQueue(), [this] { refresh(); }),
       m_linkChanges(m_link.observe([this] { m_refresh.request(); })),
-      m_stateChanges(m_state.observe([this] { m_refresh.request(); })) {
+      m_stateChanges(m_state.observe([this] { m_refresh.request(); })),
+      m_permissionChanges(m_permissions.observe([this] { m_refresh.request(); })) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     new FocusRing(*this);
     connect(m_header, &HeaderBar::profileChosen, this, &MainView::switchProfile);
     connect(m_navigation, &NavigationBar::chosen, this, [this](NavTab tab) { m_state.currentTab.set(tab); });
+    connect(m_toast, &PermissionToast::shareChanged, this, &MainView::placePage);
     refresh();
 }
 
@@ -69,12 +87,21 @@ void MainView::refresh() {
     m_navigation->setSelected(m_state.currentTab.get());
     showTab(m_state.currentTab.get());
     m_status->setMessage(m_link.statusMessage.get());
+    m_status->setGrants(m_permissions.isMicrophoneAuthorized.get(), m_permissions.isInputMonitoringAuthorized.get());
+    showPrompts();
+}
+
+void MainView::showPrompts() {
+    m_toast->setShown(m_permissions.showPermissionToast.get());
+    m_welcome->setShown(m_permissions.showFirstLaunchPopup.get());
+    m_recheck->setShown(m_permissions.showRecheckPopup.get());
 }
 
 void MainView::showTab(NavTab tab) {
     if (tab == m_shownTab) return;
     m_shownTab = tab;
     m_page->setPage(makePage(tab));
+    m_toast->comeLastInTabOrder();  // the new page's controls came last
 }
 
 void MainView::mousePressEvent(QMouseEvent* event) {
@@ -93,15 +120,24 @@ void MainView::showEvent(QShowEvent*) {
 }
 
 void MainView::resizeEvent(QResizeEvent*) {
-    const int columnWidth = std::min(width() - 2 * theme::kWindowMargin, kWidestColumn);
-    const int left = (width() - columnWidth) / 2;
+    const QRect column = pageColumn(*this);
     const int statusTop = height() - StatusBar::kHeight;
     m_header->setGeometry(0, 0, width(), HeaderBar::kHeight);
-    m_navigation->setGeometry(left, kNavigationTop, columnWidth, NavigationBar::kHeight);
-    m_keyboard->setGeometry(left - KeyboardView::kShadow, kKeyboardTop, columnWidth + KeyboardView::kShadow,
+    m_navigation->setGeometry(column.x(), kNavigationTop, column.width(), NavigationBar::kHeight);
+    m_keyboard->setGeometry(column.x() - KeyboardView::kShadow, kKeyboardTop, column.width() + KeyboardView::kShadow,
                             KeyboardView::kHeight);
-    m_page->setGeometry(left, kPageTop, columnWidth, statusTop - kPageToStatus - kPageTop);
     m_status->setGeometry(0, statusTop, width(), StatusBar::kHeight);
+    m_toast->setCorner({width() - theme::kWindowMargin, statusTop - kPageToStatus});
+    placePage();
+    for (Popup* const popup : {m_welcome, m_recheck}) popup->setGeometry(rect());
+}
+
+void MainView::placePage() {
+    // The page makes room for the toast, so that this never covers a control.
+    const int below = kPageToStatus + qRound(m_toast->share() * kToastRoom);
+    QRect page = pageColumn(*this);
+    page.setHeight(height() - StatusBar::kHeight - below - kPageTop);
+    m_page->place(page, width());
 }
 
 }  // namespace lumo

@@ -1,4 +1,4 @@
-// The window's content: header, navigation, keyboard, page and status bar.
+// The window's content: header, navigation, keyboard, page and status bar, and the prompts over them.
 #pragma once
 
 #include <QWidget>
@@ -16,6 +16,9 @@ class HeaderBar;
 class KeyboardView;
 class NavigationBar;
 class PageArea;
+class PermissionManager;
+class PermissionToast;
+class Popup;
 class StatusBar;
 class UIState;
 class VexaProtocol;
@@ -38,19 +41,26 @@ protected:
 private:
     void switchProfile(std::int64_t number);
     void showTab(NavTab tab);
+    void showPrompts();
+    void placePage();
     void refresh();
 
     VexaProtocol& m_link;
     UIState& m_state;
+    PermissionManager& m_permissions;
     HeaderBar* m_header;
     NavigationBar* m_navigation;
     KeyboardView* m_keyboard;
     PageArea* m_page;
     StatusBar* m_status;
+    PermissionToast* m_toast;
+    Popup* m_welcome;
+    Popup* m_recheck;
     std::optional<NavTab> m_shownTab;
     CoalescedRefresh m_refresh;
     Subscription m_linkChanges;
     Subscription m_stateChanges;
+    Subscription m_permissionChanges;
 };
 
 }  // namespace lumo

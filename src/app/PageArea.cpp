@@ -1,56 +1,65 @@
 #include "app/PageArea.h"
 
-#include <QPainter>
+#include <QApplication>
 
-#include "controls/Fade.h"
-#include "controls/Motion.h"
-#include "controls/Theme.h"
+#include "app/PageVeil.h"
+#include "controls/FocusRing.h"
+#include "controls/ScrollBar.h"
+#include "controls/ScrollHint.h"
 
 namespace lumo {
+namespace {
 
-PageVeil::PageVeil(QWidget* parent) : QWidget(parent) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    hide();
-    m_thickness.setStartValue(1.0);
-    m_thickness.setEndValue(0.0);
-    m_thickness.setEasingCurve(QEasingCurve::OutQuad);
-    connect(&m_thickness, &QVariantAnimation::valueChanged, this, [this] { update(); });
-    connect(&m_thickness, &QVariantAnimation::finished, this, &QWidget::hide);
+constexpr int kBarToEdge = 4;
+constexpr int kFocusMargin = 12;
+
+}  // namespace
+
+PageArea::PageArea(QWidget* parent)
+    : QScrollArea(parent),
+      m_veil(new PageVeil(viewport())),
+      m_hint(new ScrollHint(*verticalScrollBar(), viewport())),
+      m_bar(new ScrollBar(*verticalScrollBar(), this)) {
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // ours stands at the window's edge
+    viewport()->setAutoFillBackground(false);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { showFocused(now); });
 }
 
-void PageVeil::lift() {
-    m_thickness.stop();
-    m_thickness.setDuration(motionIsReduced() ? theme::kReducedPageMs : theme::kPageMs);
-    setGeometry(parentWidget()->rect());
-    raise();
-    show();
-    m_thickness.start();
+void PageArea::showFocused(QWidget* focused) {
+    if (!focused || !viewport()->isAncestorOf(focused)) return;
+    // Not for the mouse: what is pressed must not move away below it.
+    const auto* const wearer = dynamic_cast<const RingWearer*>(focused);
+    if (wearer && wearer->ring()) ensureWidgetVisible(focused, 0, kFocusMargin);
 }
-
-void PageVeil::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.fillRect(rect(), faded(theme::kWindow, m_thickness.currentValue().toDouble()));
-}
-
-PageArea::PageArea(QWidget* parent) : QWidget(parent), m_veil(new PageVeil(this)) {}
 
 void PageArea::setPage(QWidget* page) {
-    const bool isFirst = !m_page;
-    if (m_page) {
-        m_page->hide();
-        m_page->deleteLater();  // what changes the page may come out of the page itself
+    const bool isFirst = !widget();
+    if (QWidget* const before = takeWidget()) {
+        before->hide();
+        before->deleteLater();  // what changes the page may come out of the page itself
     }
-    m_page = page;
     if (!page) return;
-    page->setParent(this);
-    page->setGeometry(rect());
+    setWidget(page);
+    page->setAutoFillBackground(false);
     page->show();
+    m_hint->raise();
     if (!isFirst && isVisible()) m_veil->lift();
 }
 
-void PageArea::resizeEvent(QResizeEvent*) {
-    if (m_page) m_page->setGeometry(rect());
-    m_veil->setGeometry(rect());
+void PageArea::place(const QRect& page, int rightEdge) {
+    setViewportMargins(0, 0, rightEdge - page.x() - page.width(), 0);
+    setGeometry(page.x(), page.y(), rightEdge - page.x(), page.height());
+}
+
+void PageArea::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    m_veil->setGeometry(viewport()->rect());
+    m_hint->follow();
+    m_bar->setGeometry(width() - kBarToEdge - ScrollBar::kThickness, 0, ScrollBar::kThickness, height());
 }
 
 }  // namespace lumo

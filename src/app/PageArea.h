@@ -1,29 +1,17 @@
 // The part of the window that shows one page.
 #pragma once
 
-#include <QVariantAnimation>
-#include <QWidget>
+#include <QScrollArea>
 
 namespace lumo {
 
-/// Lies over a new page in the window's colour and lifts. Main thread.
-class PageVeil final : public QWidget {
-    Q_OBJECT
+class PageVeil;
+class ScrollBar;
+class ScrollHint;
 
-public:
-    explicit PageVeil(QWidget* parent);
-
-    void lift();
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    QVariantAnimation m_thickness;
-};
-
-/// Main thread. A page fills the area, and fades in when it takes the place of another.
-class PageArea final : public QWidget {
+/// Main thread. A page fills the area, and fades in when it takes the place of another. Where the area is lower than
+/// the page's smallest height, the page scrolls as a whole, also to the control that the keyboard comes to.
+class PageArea final : public QScrollArea {
     Q_OBJECT
 
 public:
@@ -31,13 +19,18 @@ public:
 
     /// Owns the page; the one before it goes. Null leaves the area empty.
     void setPage(QWidget* page);
+    /// In the parent's coordinates: the page's place, and as much on its right as holds the scroll bar.
+    void place(const QRect& page, int rightEdge);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QWidget* m_page = nullptr;
+    void showFocused(QWidget* focused);
+
     PageVeil* m_veil;
+    ScrollHint* m_hint;
+    ScrollBar* m_bar;
 };
 
 }  // namespace lumo

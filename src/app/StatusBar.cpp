@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "app/StatusChip.h"
 #include "controls/TextLine.h"
 #include "controls/Theme.h"
 
@@ -9,29 +10,31 @@ namespace lumo {
 namespace {
 
 constexpr int kLineHeight = 1;
-constexpr int kGap = 14;  // on both sides of a separator
+constexpr int kGap = 14;  // on both sides of a separator, and behind the message
+constexpr int kChipGap = 8;
 constexpr int kSeparatorHeight = 12;
 
 int centred(int height) { return kLineHeight + (StatusBar::kHeight - kLineHeight - height) / 2; }
 
-int placeAt(TextLine& line, int x, int width) {
-    const int height = line.sizeHint().height();
-    line.setGeometry(x, centred(height), width, height);
-    return x;
+void placeAt(QWidget& item, int x, int width) {
+    const int height = item.sizeHint().height();
+    item.setGeometry(x, centred(height), width, height);
 }
 
-/// The message's own change of name is told by its label. Newer Qt also speaks it without the focus being there.
-void announce([[maybe_unused]] TextLine& message) {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-    QAccessibleAnnouncementEvent event(&message, message.text());
-    QAccessible::updateAccessibility(&event);
-#endif
+/// Returns where the item begins.
+int placeBefore(QWidget& item, int right) {
+    const int width = item.sizeHint().width();
+    placeAt(item, right - width, width);
+    return right - width;
 }
 
 }  // namespace
 
 StatusBar::StatusBar(QWidget* parent)
-    : QWidget(parent), m_message(new TextLine(theme::kFineStyle, theme::kTextStatus, this)) {
+    : QWidget(parent),
+      m_message(new TextLine(theme::kFineStyle, theme::kTextStatus, this)),
+      m_audio(new StatusChip("Audio Sync", this)),
+      m_keys(new StatusChip("Macro Tap", this)) {
     addFixedText("Protocol: SinoWealth K916 (BYCOMBO4)");
     addFixedText("VID: 0x258A | PID: 0x010C");
 }
@@ -43,7 +46,13 @@ void StatusBar::addFixedText(std::string_view text) {
 }
 
 void StatusBar::setMessage(std::string_view message) {
-    if (m_message->setText(message)) announce(*m_message);
+    // The change of its name is told by the line itself.
+    if (m_message->setText(message)) announce(*m_message, m_message->text());
+}
+
+void StatusBar::setGrants(bool microphone, bool keys) {
+    m_audio->setGranted(microphone);
+    m_keys->setGranted(keys);
 }
 
 QAccessibleInterface* StatusBar::makeAccessible() { return new QAccessibleWidget(this, QAccessible::StatusBar); }
@@ -61,11 +70,11 @@ void StatusBar::resizeEvent(QResizeEvent*) {
     m_separators.clear();
     int right = width() - theme::kWindowMargin;
     for (TextLine* text : m_fixedTexts) {
-        const int textWidth = text->sizeHint().width();
-        m_separators.push_back(placeAt(*text, right - textWidth, textWidth) - kGap - 1);
+        m_separators.push_back(placeBefore(*text, right) - kGap - 1);
         right = m_separators.back() - kGap;
     }
-    placeAt(*m_message, theme::kWindowMargin, right - theme::kWindowMargin);
+    const int chips = placeBefore(*m_audio, placeBefore(*m_keys, right) - kChipGap);
+    placeAt(*m_message, theme::kWindowMargin, chips - kGap - theme::kWindowMargin);
 }
 
 }  // namespace lumo

@@ -10,6 +10,7 @@
 
 namespace lumo {
 
+class StatusChip;
 class TextLine;
 
 /// Main thread.
@@ -23,6 +24,8 @@ public:
 
     /// Plain text. A screen reader is told when it differs from the last one.
     void setMessage(std::string_view message);
+    /// Whether the microphone, and whether the keys may be heard.
+    void setGrants(bool microphone, bool keys);
 
     QAccessibleInterface* makeAccessible() override;
 
@@ -34,6 +37,8 @@ private:
     void addFixedText(std::string_view text);
 
     TextLine* m_message;
+    StatusChip* m_audio;
+    StatusChip* m_keys;
     std::deque<TextLine*> m_fixedTexts;  // from right to left
     std::vector<int> m_separators;       // where they stand
 };

@@ -29,4 +29,11 @@ QStringList AccessibleButton::keyBindingsForAction(const QString& actionName) co
     return {QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText)};
 }
 
+void announce([[maybe_unused]] QWidget& source, [[maybe_unused]] const QString& text) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent event(&source, text);
+    QAccessible::updateAccessibility(&event);
+#endif
+}
+
 }  // namespace lumo

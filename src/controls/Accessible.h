@@ -28,4 +28,7 @@ public:
     [[nodiscard]] QStringList keyBindingsForAction(const QString& actionName) const override;
 };
 
+/// Speaks the text where the system can speak what does not have the focus. Main thread.
+void announce(QWidget& source, const QString& text);
+
 }  // namespace lumo

@@ -1,5 +1,6 @@
 #include "controls/FocusRing.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QEvent>
 #include <QPainter>
@@ -29,6 +30,18 @@ bool concernsRing(QEvent::Type type) {
         default:
             return false;
     }
+}
+
+/// Where a ring of that control can be seen: an area that scrolls hides what is beyond its edges.
+QRect visiblePart(const QWidget& view, const QWidget& control) {
+    constexpr int kOut = static_cast<int>(kGap + kWidth);
+    QRect visible = view.rect();
+    for (const QWidget* at = &control; at != &view; at = at->parentWidget()) {
+        const auto* const area = qobject_cast<const QAbstractScrollArea*>(at->parentWidget());
+        if (!area || area->viewport() != at) continue;
+        visible &= QRect(at->mapTo(&view, QPoint()), at->size()).adjusted(-kOut, -kOut, kOut, kOut);
+    }
+    return visible;
 }
 
 }  // namespace
@@ -69,7 +82,7 @@ void FocusRing::place() {
     setVisible(m_shape.has_value());
     if (!m_shape) return;
     const QRectF inView = m_shape->outer.translated(m_focused->mapTo(parentWidget(), QPointF()));
-    setGeometry(inView.toAlignedRect());
+    setGeometry(inView.toAlignedRect() & visiblePart(*parentWidget(), *m_focused));
     m_shape->outer = inView.translated(-pos());
     raise();
     update();

@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QPainterPath>
+#include <algorithm>
 #include <cmath>
 
 namespace lumo {
@@ -25,17 +26,80 @@ QPointF onWholePixel(const QPainter& painter, QPointF baseline) {
     return toPixels.inverted().map(pixel);
 }
 
-void drawLetters(QPainter& painter, const QPointF& baseline, const QString& text) {
 #ifdef Q_OS_MACOS
-    painter.drawText(baseline, text);
+QList<QTextLayout::FormatRange> emojiFormats(const QString&, const QFont&) {
+    return {};
+}  // the system finds the font by itself
+
+void drawLetters(QPainter& painter, const QPointF& baseline, const QString& text) { painter.drawText(baseline, text); }
 #else
-    // FreeType thickens the stems of fonts like Inter: as glyphs on a dark ground, regular would look semibold.
+/// How many units of the text, from the beginning, form one emoji; 0 where it begins with a letter.
+qsizetype emojiAtFront(QStringView text) {
+    constexpr char32_t kFirstPictograph = 0x1F000;
+    constexpr QChar kAsEmoji(0xFE0F);
+    const bool isPair = text.size() > 1 && text[0].isHighSurrogate() && text[1].isLowSurrogate();
+    const qsizetype units = isPair ? 2 : 1;
+    const bool isPictograph = isPair && QChar::surrogateToUcs4(text[0], text[1]) >= kFirstPictograph;
+    if (text.size() > units && text[units] == kAsEmoji) return units + 1;
+    return isPictograph ? units : 0;
+}
+
+qsizetype lettersAtFront(QStringView text) {
+    qsizetype letters = 0;
+    while (letters < text.size() && emojiAtFront(text.sliced(letters)) == 0) ++letters;
+    return letters;
+}
+
+/// Returns how wide it is. FreeType thickens the stems of fonts like Inter: as glyphs on a dark ground, regular would
+/// look semibold.
+double drawOutlines(QPainter& painter, const QPointF& baseline, const QString& text) {
     QPainterPath outlines;
     outlines.addText(baseline, painter.font(), text);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(outlines, painter.pen().brush());
-#endif
+    return QFontMetricsF(painter.font()).horizontalAdvance(text);
 }
+
+/// Other fonts may have the same sign in black and white, and would come first.
+QFont emojiFont(QFont font) {
+    font.setFamilies(QStringList{"Noto Color Emoji"} + font.families());
+    return font;
+}
+
+QList<QTextLayout::FormatRange> emojiFormats(const QString& text, const QFont& font) {
+    QList<QTextLayout::FormatRange> formats;
+    for (qsizetype at = 0; at < text.size();) {
+        const qsizetype length = emojiAtFront(QStringView(text).sliced(at));
+        if (length > 0) {
+            QTextLayout::FormatRange range{static_cast<int>(at), static_cast<int>(length), {}};
+            range.format.setFont(emojiFont(font));
+            formats += range;
+        }
+        at += std::max<qsizetype>(length, 1);
+    }
+    return formats;
+}
+
+/// Returns how wide it is.
+double drawEmoji(QPainter& painter, const QPointF& baseline, const QString& text) {
+    const QFont letters = painter.font();
+    painter.setFont(emojiFont(letters));
+    painter.drawText(baseline, text);
+    const double width = QFontMetricsF(painter.font()).horizontalAdvance(text);
+    painter.setFont(letters);
+    return width;
+}
+
+/// Emojis have no outlines: they are pictures in colours of their own.
+void drawLetters(QPainter& painter, QPointF baseline, QStringView text) {
+    while (!text.isEmpty()) {
+        const qsizetype emoji = emojiAtFront(text);
+        const QString part = text.first(emoji > 0 ? emoji : lettersAtFront(text)).toString();
+        baseline.rx() += emoji > 0 ? drawEmoji(painter, baseline, part) : drawOutlines(painter, baseline, part);
+        text = text.sliced(part.size());
+    }
+}
+#endif
 
 /// With the painter at the feet of the first letter, in the font's own size.
 template <typename Draw>
@@ -80,11 +144,13 @@ void Lettering::paint(QPainter& painter, const QRectF& rect, const QString& text
         double x = 0.0;
         for (const QChar letter : text) {
             const double spare = advanceOf(letter) - QFontMetricsF(m_font).horizontalAdvance(letter);
-            drawLetters(painter, {x + spare / 2.0, 0.0}, letter);
+            drawLetters(painter, {x + spare / 2.0, 0.0}, QString(letter));
             x += advanceOf(letter);
         }
     });
 }
+
+QList<QTextLayout::FormatRange> Lettering::formats(const QString& text) const { return emojiFormats(text, m_font); }
 
 QPainterPath Lettering::outlines(const QString& text) const {
     QPainterPath path;

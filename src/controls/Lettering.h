@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QFont>
+#include <QList>
 #include <QPainter>
 #include <QPainterPath>
 #include <QString>
+#include <QTextLayout>
 
 #include "controls/Theme.h"
 
@@ -25,8 +27,9 @@ public:
     /// The letters as shapes, from the foot of the first.
     [[nodiscard]] QPainterPath outlines(const QString& text) const;
 
-    /// For breaking lines: a font, and how many of its units a point has.
+    /// For breaking lines: a font, what of a text is set in another one, and how many of its units a point has.
     [[nodiscard]] const QFont& font() const { return m_font; }
+    [[nodiscard]] QList<QTextLayout::FormatRange> formats(const QString& text) const;
     [[nodiscard]] double unitsPerPoint() const { return 1.0 / m_scale; }
 
 private:

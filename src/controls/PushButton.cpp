@@ -1,6 +1,5 @@
 #include "controls/PushButton.h"
 
-#include <QFontMetricsF>
 #include <cmath>
 
 #include "controls/Panel.h"
@@ -37,6 +36,15 @@ constinit const ButtonLook kProfile{{{QColor(0x24, 0x24, 0x27), QColor(0x30, 0x3
                                      {theme::kTextProfile, QColor(0xD0, 0xD0, 0xD4), theme::kTextProfile},
                                      kNone},
                                     kAccentSkin};
+constinit const ButtonLook kPopupPrimary{
+    withLine(kAccentSkin, theme::kPrimaryLine), {}, theme::kPopupButtonStyle, theme::kPopupButtonRadius};
+constinit const ButtonLook kPopupSecondary{
+    {{theme::kPopupControl, theme::kPopupControlHover, theme::kPopupControlPressed},
+     {theme::kTextButton, theme::white(100), theme::kTextRowPressed},
+     theme::kControlLine},
+    {},
+    theme::kPopupButtonStyle,
+    theme::kPopupButtonRadius};
 
 }  // namespace look
 
@@ -46,14 +54,10 @@ constexpr double kSymbolSize = 16.0;
 constexpr double kSymbolGap = 6.0;
 constexpr double kLeastPadding = 6.0;
 
-double widthOf(const QFont& font, const QString& text) { return QFontMetricsF(font).horizontalAdvance(text); }
-
 }  // namespace
 
 PushButton::PushButton(const QString& text, const ButtonLook& look, QWidget* parent, QAccessible::Role role)
-    : PushControl(text, role, parent), m_look(look) {
-    setFont(theme::font(theme::kButtonStyle));
-}
+    : PushControl(text, role, parent), m_look(look), m_lettering(look.type) {}
 
 void PushButton::setSymbol(const QString& name) {
     m_symbol = name;
@@ -67,17 +71,17 @@ void PushButton::setLabel(const QString& text) {
 }
 
 int PushButton::widthWith(int padding) const {
-    return static_cast<int>(std::lround(symbolRoom() + widthOf(font(), text()))) + 2 * padding;
+    return static_cast<int>(std::lround(symbolRoom() + m_lettering.widthOf(text()))) + 2 * padding;
 }
 
-RingShape PushButton::ringShape() const { return ringAround(rect(), theme::kButtonRadius); }
+RingShape PushButton::ringShape() const { return ringAround(rect(), m_look.radius); }
 
-QString PushButton::toolTipText() const { return shownText() == text() ? QString() : text(); }
+QString PushButton::toolTipText() const { return typeset(shownText()) == typeset(text()) ? QString() : text(); }
 
 double PushButton::symbolRoom() const { return m_symbol.isEmpty() ? 0.0 : kSymbolSize + kSymbolGap; }
 
 QString PushButton::shownText() const {
-    return QFontMetricsF(font()).elidedText(text(), Qt::ElideRight, width() - symbolRoom() - 2.0 * kLeastPadding);
+    return m_lettering.elided(text(), width() - symbolRoom() - 2.0 * kLeastPadding);
 }
 
 QColor PushButton::blended(const PressColors& plain, const PressColors& selected) const {
@@ -86,8 +90,9 @@ QColor PushButton::blended(const PressColors& plain, const PressColors& selected
 
 void PushButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const auto& [plain, selected] = m_look;
-    paintPanel(painter, rect(), theme::kButtonRadius, blended(plain.fill, selected.fill),
+    const ButtonSkin& plain = m_look.skin;
+    const ButtonSkin& selected = m_look.selected;
+    paintPanel(painter, rect(), m_look.radius, blended(plain.fill, selected.fill),
                mix(plain.line, selected.line, selection()));
     painter.setPen(blended(plain.text, selected.text));
     paintLabel(painter);
@@ -95,13 +100,13 @@ void PushButton::paintEvent(QPaintEvent*) {
 
 void PushButton::paintLabel(QPainter& painter) const {
     const QString shown = shownText();
-    const double left = (width() - symbolRoom() - widthOf(font(), shown)) / 2.0;
+    const double left = (width() - symbolRoom() - m_lettering.widthOf(shown)) / 2.0;
     const QRectF all = rect();
     if (!m_symbol.isEmpty()) {
         const QRectF frame(left, all.center().y() - kSymbolSize / 2.0, kSymbolSize, kSymbolSize);
         paintSymbol(painter, frame, m_symbol, painter.pen().color());
     }
-    paintTextLine(painter, all.adjusted(left + symbolRoom(), 0, 0, 0), shown);
+    m_lettering.paint(painter, all.adjusted(left + symbolRoom(), 0, 0, 0), shown);
 }
 
 }  // namespace lumo

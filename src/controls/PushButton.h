@@ -3,7 +3,9 @@
 
 #include <QColor>
 
+#include "controls/Lettering.h"
 #include "controls/PushControl.h"
+#include "controls/Theme.h"
 
 namespace lumo {
 
@@ -28,6 +30,8 @@ struct ButtonSkin {
 struct ButtonLook {
     ButtonSkin skin;
     ButtonSkin selected;
+    theme::TextStyle type = theme::kButtonStyle;
+    double radius = theme::kButtonRadius;
 };
 
 namespace look {
@@ -36,6 +40,8 @@ extern const ButtonLook kPlain;
 extern const ButtonLook kPrimary;
 extern const ButtonLook kLayer;
 extern const ButtonLook kProfile;
+extern const ButtonLook kPopupPrimary;
+extern const ButtonLook kPopupSecondary;
 
 }  // namespace look
 
@@ -68,6 +74,7 @@ private:
     void paintLabel(QPainter& painter) const;
 
     const ButtonLook& m_look;
+    Lettering m_lettering;
     QString m_symbol;
 };
 

@@ -29,21 +29,35 @@ bool TextBlock::event(QEvent* event) {
     return true;
 }
 
-void TextBlock::breakLines() {
-    m_lines.clear();
-    m_isElided = false;
+void TextBlock::centreLines() {
+    m_isCentred = true;
+    update();
+}
+
+int TextBlock::heightWithin(int width) const { return m_linePx * static_cast<int>(broken(width).lines.size()); }
+
+TextBlock::Broken TextBlock::broken(int width) const {
+    Broken result;
     const QString text = typeset(m_text);
     QTextLayout layout(text, m_lettering.font());
+    layout.setFormats(m_lettering.formats(text));
     layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid() && !m_isElided; line = layout.createLine()) {
-        line.setLineWidth(width() * m_lettering.unitsPerPoint());
-        const bool isLast = m_lines.size() + 1 == m_mostLines;
+    for (QTextLine line = layout.createLine(); line.isValid() && !result.isElided; line = layout.createLine()) {
+        line.setLineWidth(width * m_lettering.unitsPerPoint());
+        const bool isLast = result.lines.size() + 1 == m_mostLines;
         const QString rest = text.mid(line.textStart());
-        m_isElided = isLast && line.textLength() < rest.size();
+        result.isElided = isLast && line.textLength() < rest.size();
         const QString whole = rest.left(line.textLength()).trimmed();
-        m_lines += m_isElided ? m_lettering.elided(rest, width()) : whole;
+        result.lines += result.isElided ? m_lettering.elided(rest, width) : whole;
     }
     layout.endLayout();
+    return result;
+}
+
+void TextBlock::breakLines() {
+    auto [lines, isElided] = broken(width());
+    m_lines = std::move(lines);
+    m_isElided = isElided;
 }
 
 void TextBlock::paintEvent(QPaintEvent*) {
@@ -51,7 +65,8 @@ void TextBlock::paintEvent(QPaintEvent*) {
     painter.setPen(m_color);
     double top = (height() - m_linePx * static_cast<double>(m_lines.size())) / 2.0;
     for (const QString& line : m_lines) {
-        m_lettering.paint(painter, QRectF(0.0, top, width(), m_linePx), line);
+        const double left = m_isCentred ? (width() - m_lettering.widthOf(line)) / 2.0 : 0.0;
+        m_lettering.paint(painter, QRectF(left, top, width() - left, m_linePx), line);
         top += m_linePx;
     }
 }

@@ -10,8 +10,8 @@
 
 namespace lumo {
 
-/// Main thread. The lines are centred in the height; what does not fit is elided at the end of the last line, and then
-/// told as hover help. A press on it goes to what lies behind.
+/// Main thread. The lines begin at the left, and are centred in the height; what does not fit is elided at the end of
+/// the last line, and then told as hover help. A press on it goes to what lies behind.
 class TextBlock final : public QWidget, public AccessibleSource {
     Q_OBJECT
 
@@ -20,6 +20,10 @@ public:
 
     /// Untrusted UTF-8.
     void setText(std::string_view text);
+    /// Each line in the middle of the width instead.
+    void centreLines();
+    /// What the lines take within that width.
+    [[nodiscard]] int heightWithin(int width) const;
     [[nodiscard]] const QString& text() const { return m_text; }
     [[nodiscard]] const QStringList& lines() const { return m_lines; }
     [[nodiscard]] bool isElided() const { return m_isElided; }
@@ -32,6 +36,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    struct Broken {
+        QStringList lines;
+        bool isElided = false;
+    };
+    [[nodiscard]] Broken broken(int width) const;
     void breakLines();
 
     Lettering m_lettering;
@@ -41,6 +50,7 @@ private:
     QString m_text;
     QStringList m_lines;
     bool m_isElided = false;
+    bool m_isCentred = false;
 };
 
 }  // namespace lumo

@@ -18,6 +18,12 @@ inline constexpr QColor kBar{0x17, 0x17, 0x17};
 inline constexpr QColor kCard{0x21, 0x21, 0x23};
 inline constexpr QColor kPopup{0x25, 0x25, 0x28};
 inline constexpr QColor kPopupControl{0x3A, 0x3A, 0x3E};
+inline constexpr QColor kPopupControlHover{0x44, 0x44, 0x4A};
+inline constexpr QColor kPopupControlPressed{0x34, 0x34, 0x38};
+inline constexpr QColor kPopupInset{0x1B, 0x1B, 0x1D};
+inline constexpr QColor kToast{0x29, 0x29, 0x2C};
+inline constexpr QColor kBackdrop{0, 0, 0, 148};
+inline constexpr QColor kChip = white(4);
 inline constexpr QColor kControl{0x2E, 0x2E, 0x31};
 inline constexpr QColor kControlHover{0x38, 0x38, 0x3C};
 inline constexpr QColor kControlPressed{0x28, 0x28, 0x2B};
@@ -35,6 +41,8 @@ inline constexpr QColor kToolsLine = white(7);
 inline constexpr QColor kHeaderSeparator = white(9);
 inline constexpr QColor kStatusSeparator = white(12);
 inline constexpr QColor kPopupLine = white(10);
+inline constexpr QColor kToastLine = white(11);
+inline constexpr QColor kExplainerLine = white(6);
 inline constexpr QColor kSelectedLine{0x8B, 0x5C, 0xFF, 140};
 
 // Accent. The violet itself is too dark to be a line or a letter.
@@ -47,6 +55,11 @@ inline constexpr QColor kFocus{0xA8, 0x88, 0xFF};
 
 // Meaning
 inline constexpr QColor kOk{0x3D, 0xD6, 0x6E};
+inline constexpr QColor kWarn{0xFF, 0x9F, 0x3A};
+inline constexpr QColor kTextWarn{0xFF, 0xA6, 0x4A};
+inline constexpr QColor kNoticeFill{0xFF, 0x9F, 0x3A, 20};
+inline constexpr QColor kNoticeLine{0xFF, 0x9F, 0x3A, 46};
+inline constexpr QColor kAccentSymbol{0xA8, 0x88, 0xFF};
 
 // Text
 inline constexpr QColor kText{0xF2, 0xF2, 0xF4};
@@ -63,6 +76,9 @@ inline constexpr QColor kTextFixed = white(50);
 inline constexpr QColor kTextSection = white(60);
 inline constexpr QColor kTextLink = white(75);
 inline constexpr QColor kTextStatus{0xD2, 0xD2, 0xD6};
+inline constexpr QColor kTextPopup = white(80);
+inline constexpr QColor kTextExplainer = white(70);
+inline constexpr QColor kTextNotice{0xD6, 0xD6, 0xDA};
 
 struct TextStyle {
     double sizePx = 12.0;
@@ -85,12 +101,21 @@ inline constexpr TextStyle kDescriptionStyle{11.5, 16, QFont::Normal};
 inline constexpr TextStyle kLinkStyle{12, 16, QFont::Normal};
 inline constexpr TextStyle kMenuStyle{12, 16, QFont::Medium};
 inline constexpr TextStyle kFineStyle{11, 14, QFont::Normal};
+inline constexpr TextStyle kPopupTitleStyle{20, 26, QFont::DemiBold, -0.015};
+inline constexpr TextStyle kPopupTextStyle{13, 19, QFont::Normal};
+inline constexpr TextStyle kPopupButtonStyle{13, 16, QFont::Medium};
+inline constexpr TextStyle kExplainerTitleStyle{13, 18, QFont::DemiBold};
+inline constexpr TextStyle kExplainerStyle{12, 17, QFont::Normal};
+inline constexpr TextStyle kNoticeStyle{12, 18, QFont::Normal};
+inline constexpr TextStyle kToastTitleStyle{12.5, 18, QFont::DemiBold};
 
 /// The interface font in that style, its size cut to whole pixels, unhinted so that letters stand where they belong and
 /// not on whole pixels.
 [[nodiscard]] QFont font(const TextStyle& style);
 
+inline constexpr double kPopupRadius = 16.0;
 inline constexpr double kCardRadius = 12.0;
+inline constexpr double kPopupButtonRadius = 9.0;
 inline constexpr double kBoxRadius = 10.0;
 inline constexpr double kSwatchRadius = 8.0;
 inline constexpr double kRowRadius = 7.0;
@@ -102,6 +127,9 @@ inline constexpr int kCardGap = 12;
 inline constexpr int kCardPadding = 12;
 inline constexpr int kHeadingToContent = 8;
 
+/// In the smallest window. A page that gets less scrolls.
+inline constexpr int kShortestPage = 300;
+
 /// Whether a page that high uses its short measures, as in the smallest window.
 [[nodiscard]] constexpr bool isShort(int pageHeight) { return pageHeight < 330; }
 
@@ -112,7 +140,10 @@ inline constexpr int kSelectMs = 160;
 inline constexpr int kKeyDownMs = 60;
 inline constexpr int kKeyUpMs = 110;
 inline constexpr int kPageMs = 120;
-inline constexpr int kReducedPageMs = 80;
+inline constexpr int kReducedMs = 80;
+inline constexpr int kBackdropInMs = 160;
+inline constexpr int kPromptInMs = 200;
+inline constexpr int kPromptOutMs = 140;
 
 /// Before the first window: keeps the desktop's own style out of ours. Main thread.
 void apply(QApplication& application);

@@ -40,6 +40,7 @@ LightingControlView::LightingControlView(VexaProtocol& link, UIState& state, Key
       m_linkChanges(link.observe([this] { m_refresh.request(); })),
       m_stateChanges(state.observe([this] { m_refresh.request(); })),
       m_keyboardChanges(keyboard.observe([this] { m_refresh.request(); })) {
+    setMinimumHeight(theme::kShortestPage);
     connectControls();
     refresh();
 }

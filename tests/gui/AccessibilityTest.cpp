@@ -93,7 +93,8 @@ TEST_F(Accessibility, EveryTextIsALeafNamedAsItReads) {
                             "BRIGHTNESS", "100", "%", "SPEED", "Level 2", "COLOR SPECTRUM", "COLOR PALETTE",
                             "Tip: In Per-Key RGB mode, clicking any switch on the keyboard immediately paints it with "
                             "the selected color.",
-                            "Ready", "Protocol: SinoWealth K916 (BYCOMBO4)", "VID: 0x258A | PID: 0x010C"));
+                            "Ready", "Audio Sync", "Macro Tap", "Protocol: SinoWealth K916 (BYCOMBO4)",
+                            "VID: 0x258A | PID: 0x010C"));
 }
 
 TEST_F(Accessibility, NothingThatCanBeFocusedIsWithoutAName) {

@@ -3,30 +3,19 @@
 
 #include <gtest/gtest.h>
 
-#include <QImage>
-#include <QPainter>
 #include <QPainterPath>
-#include <algorithm>
-#include <functional>
 
-#include "UncachedKeyboardPainter.h"
 #include "device/LightingModes.h"
+#include "gui/KeyboardPictureFixture.h"
 #include "keyboard/KeyShade.h"
-#include "keyboard/KeyboardLayout.h"
 
 namespace lumo {
 namespace {
 
-constexpr double kFullBrightness = 4.0;
-constexpr double kMiddleSpeed = 2.0;
-const QRect kWhole(0, 0, 650, 247);
+using test::differenceOf;
+using test::kWhole;
 
-/// The shipped picture, or the drawn case where the tests run elsewhere.
-QImage shippedPicture() { return QImage(LUMO_ASSETS_FOLDER "/keyimg.png"); }
-
-int differenceOf(QRgb a, QRgb b) {
-    return std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
-}
+using KeyboardPictureTest = test::KeyboardPictureFixture;
 
 /// Of 255, over the channels of those pixels.
 double averageDifference(const QImage& a, const QImage& b, const QRect& part) {
@@ -52,73 +41,6 @@ double luminanceOf(QRgb color) {
 }
 
 double contrast(double brighter, double darker) { return (brighter + 0.05) / (darker + 0.05); }
-
-class KeyboardPictureTest : public testing::Test {
-protected:
-    std::vector<KeyCap> keys = defaultLayout();
-    std::vector<KeyLook> looks = std::vector<KeyLook>(keys.size());
-    QImage shipped = shippedPicture();
-    KeyboardPicture picture{keys, shipped};
-
-    KeyLook& look(std::string_view label) { return looks[indexOf(label)]; }
-
-    QRect rect(std::string_view label) const {
-        const KeyCap& key = keys[indexOf(label)];
-        return QRectF(key.x, key.y, key.width, key.height).toRect();
-    }
-
-    void light(std::int64_t mode, double time) {
-        for (std::size_t i = 0; i < keys.size(); ++i) {
-            looks[i].light = LightingEngine::color(keys[i], mode, time, {0, 210, 255}, kFullBrightness, kMiddleSpeed);
-        }
-    }
-
-    void lightAll(const Color& color, double glow) {
-        for (KeyLook& each : looks) each.light = {color, glow};
-    }
-
-    static QImage window(double scale) {
-        QImage image((QSizeF(kWhole.size()) * scale).toSize(), QImage::Format_RGB32);
-        image.setDevicePixelRatio(scale);
-        image.fill(Qt::magenta);
-        return image;
-    }
-
-    static QImage paintWith(double scale, const std::function<void(QPainter&)>& paint) {
-        QImage image = window(scale);
-        {
-            QPainter painter(&image);
-            paint(painter);
-        }
-        image.setDevicePixelRatio(1.0);
-        return image;
-    }
-
-    QImage painted(KeyboardPicture& from, double scale, QPointF origin = {}) {
-        from.compose(looks);
-        return paintWith(scale, [&](QPainter& painter) { from.paint(painter, origin, kWhole); });
-    }
-
-    QImage painted(double scale = 1.0) { return painted(picture, scale); }
-
-    QImage paintedAnew(double scale) {
-        KeyboardPicture fresh(keys, shipped);
-        return painted(fresh, scale);
-    }
-
-    QImage expected(double scale, QPointF origin = {}) const {
-        const bench::UncachedKeyboardPainter uncached(keys, shipped);
-        return paintWith(scale, [&](QPainter& painter) {
-            painter.translate(origin);
-            uncached.paint(painter, looks);
-        });
-    }
-
-private:
-    std::size_t indexOf(std::string_view label) const {
-        return static_cast<std::size_t>(std::ranges::find(keys, label, &KeyCap::label) - keys.begin());
-    }
-};
 
 struct Moment {
     std::int64_t mode;
@@ -268,66 +190,6 @@ TEST_F(KeyboardPictureTest, HasTheSamePixelsHoweverItCameToThem) {
         look("S").selected = false;
         EXPECT_EQ(painted(scale), paintedAnew(scale)) << scale;
     }
-}
-
-TEST_F(KeyboardPictureTest, PutsAWhiteRingAroundASelectedKey) {
-    look("W").selected = true;  // at 115, 69
-    const QImage image = painted(2.0);
-    const int middle = 2 * 86;
-    EXPECT_EQ(image.pixel(228, middle), 0xFFFFFFFF);
-    EXPECT_EQ(image.pixel(2 * (115 + 34) + 1, middle), 0xFFFFFFFF);
-    EXPECT_EQ(image.pixel(2 * 132, 2 * 69 - 2), 0xFFFFFFFF);
-    EXPECT_EQ(image.pixel(2 * 132, 2 * 103 + 1), 0xFFFFFFFF);
-    EXPECT_LT(qRed(image.pixel(231, middle)), 0x18) << "the shadow within";
-    EXPECT_LT(qRed(image.pixel(224, middle)), 0x18) << "the plate around";
-}
-
-/// Lengths of the pieces of ring and gap along a row, without those at its ends.
-std::vector<int> pieces(const QImage& image, int y, int left, int right) {
-    std::vector<int> lengths{0};
-    bool wasRing = false;
-    for (int x = left; x <= right; ++x) {
-        const bool isRing = qBlue(image.pixel(x, y)) > 0x90;
-        if (isRing != wasRing) lengths.push_back(0);
-        wasRing = isRing;
-        ++lengths.back();
-    }
-    return {lengths.begin() + 1, lengths.end() - 1};
-}
-
-TEST_F(KeyboardPictureTest, PutsDashesAroundTheKeyInTheFocus) {
-    look("L").focused = true;  // at 396, 107
-    const QImage image = painted(2.0);
-    const std::vector<int> lengths = pieces(image, 2 * 107 - 2, 2 * 402, 2 * 424);
-    ASSERT_GE(lengths.size(), 4U);
-    for (const int length : lengths) EXPECT_TRUE(length >= 4 && length <= 9) << length;
-    int ringPixels = 0;
-    for (int x = 2 * 402; x < 2 * 424; ++x) ringPixels += image.pixel(x, 2 * 107 - 2) == 0xFFC3B0FF ? 1 : 0;
-    EXPECT_GT(ringPixels, 16);
-}
-
-TEST_F(KeyboardPictureTest, PutsTheDashesInsideOfTheSelection) {
-    look("L").selected = true;
-    look("L").focused = true;
-    const QImage image = painted(2.0);
-    EXPECT_TRUE(pieces(image, 2 * 107 - 2, 2 * 402, 2 * 424).empty()) << "the selection's ring has no gaps";
-    EXPECT_EQ(image.pixel(2 * 413, 2 * 107 - 2), 0xFFFFFFFF);
-    EXPECT_GE(pieces(image, 2 * 107 + 2, 2 * 402, 2 * 424).size(), 4U);
-}
-
-TEST_F(KeyboardPictureTest, MovesThePressedFaceDownByAPoint) {
-    light(1, 0.0);
-    const QImage before = painted();
-    look("H").press = 1.0;
-    const QImage after = painted();
-    const QRect face = rect("H").adjusted(5, 3, -5, -7);
-    for (int y = face.top(); y <= face.bottom(); ++y) {
-        for (int x = face.left(); x <= face.right(); ++x) {
-            ASSERT_LE(differenceOf(after.pixel(x, y + 1), before.pixel(x, y)), 6) << x << ", " << y;
-        }
-    }
-    const QPoint onSkirt = rect("H").bottomLeft() + QPoint(17, -2);
-    EXPECT_EQ(after.pixel(onSkirt), before.pixel(onSkirt));
 }
 
 TEST_F(KeyboardPictureTest, LetsNoLightOnTheCornerBlock) {

@@ -8,9 +8,11 @@
 #include "app/PageArea.h"
 #include "app/ProfileBar.h"
 #include "app/StatusBar.h"
+#include "app/StatusChip.h"
 #include "controls/Card.h"
 #include "controls/ColorWheel.h"
 #include "controls/InfoBox.h"
+#include "controls/Popup.h"
 #include "controls/PushButton.h"
 #include "controls/Slider.h"
 #include "controls/TextBlock.h"
@@ -22,6 +24,7 @@
 #include "keyboard/LevelsCard.h"
 #include "keyboard/LightingControlView.h"
 #include "keyboard/PaletteCard.h"
+#include "system/PermissionToast.h"
 
 namespace lumo {
 namespace {
@@ -32,6 +35,8 @@ protected:
     QRect namedRect(const QString& name) { return rectOf(control(name)); }
     /// Of a swatch, without the room for its ring.
     QRect colorRect(const QString& name) { return namedRect(name).adjusted(4, 4, -4, -4); }
+    /// The area without the room for its scroll bar.
+    QRect pageRect() { return rectOf(*only<PageArea>().viewport()); }
     double wheelDiameter() { return only<ColorWheel>().discRect().width(); }
 };
 
@@ -40,7 +45,7 @@ TEST_F(Layout, TheUsualWindow) {
     EXPECT_EQ(rectOf(only<HeaderBar>()), QRect(0, 0, 960, 45));
     EXPECT_EQ(rectOf(only<NavigationBar>()), QRect(16, 53, 928, 36));
     EXPECT_EQ(rectOf(only<KeyboardCanvas>()), QRect(11, 92, 650, 247));
-    EXPECT_EQ(rectOf(only<PageArea>()), QRect(16, 340, 928, 380));
+    EXPECT_EQ(pageRect(), QRect(16, 340, 928, 380));
     EXPECT_EQ(rectOf(only<StatusBar>()), QRect(0, 732, 960, 28));
 }
 
@@ -49,7 +54,7 @@ TEST_F(Layout, TheSmallestWindow) {
     EXPECT_EQ(rectOf(only<HeaderBar>()), QRect(0, 0, 900, 45));
     EXPECT_EQ(rectOf(only<NavigationBar>()), QRect(16, 53, 868, 36));
     EXPECT_EQ(rectOf(only<KeyboardCanvas>()), QRect(11, 92, 650, 247));
-    EXPECT_EQ(rectOf(only<PageArea>()), QRect(16, 340, 868, 300));
+    EXPECT_EQ(pageRect(), QRect(16, 340, 868, 300));
     EXPECT_EQ(rectOf(only<StatusBar>()), QRect(0, 652, 900, 28));
 }
 
@@ -58,13 +63,13 @@ TEST_F(Layout, ALargeWindowCentresItsColumn) {
     EXPECT_EQ(rectOf(only<HeaderBar>()), QRect(0, 0, 1360, 45));
     EXPECT_EQ(rectOf(only<NavigationBar>()), QRect(160, 53, 1040, 36));
     EXPECT_EQ(rectOf(only<KeyboardCanvas>()), QRect(155, 92, 650, 247));
-    EXPECT_EQ(rectOf(only<PageArea>()), QRect(160, 340, 1040, 480));
+    EXPECT_EQ(pageRect(), QRect(160, 340, 1040, 480));
 }
 
 TEST_F(Layout, AWindowThatIsResizedIsLaidOutAnew) {
     show({960, 760});
     view->resize(900, 680);
-    EXPECT_EQ(rectOf(only<PageArea>()), QRect(16, 340, 868, 300));
+    EXPECT_EQ(pageRect(), QRect(16, 340, 868, 300));
     EXPECT_EQ(rectOf(only<LightingControlView>()), QRect(16, 340, 868, 300));
     EXPECT_EQ(rowRect(0), QRect(28, 376, 177, 24));
 }
@@ -171,6 +176,8 @@ TEST_F(Layout, ThePaletteIsLowInTheSmallestWindow) {
 
 TEST_F(Layout, NoTextIsElidedInTheSmallestWindow) {
     show({900, 680});
+    for (Popup* const popup : view->findChildren<Popup*>()) popup->setShown(true);
+    only<PermissionToast>().setShown(true);
     for (const TextLine* const line : view->findChildren<TextLine*>()) {
         EXPECT_FALSE(line->isElided()) << line->text().toStdString();
     }
@@ -214,12 +221,24 @@ TEST_F(Layout, TheProfilesMoveWithTheLengthOfTheConnectionText) {
 TEST_F(Layout, TheFixedTextsOfTheStatusBarAreRightAligned) {
     show();
     const auto texts = only<StatusBar>().findChildren<TextLine*>();
-    ASSERT_EQ(texts.size(), 3);
-    EXPECT_EQ(texts[1]->text(), "Protocol: SinoWealth K916 (BYCOMBO4)");
-    EXPECT_EQ(texts[2]->text(), "VID: 0x258A | PID: 0x010C");
-    EXPECT_EQ(rectOf(*texts[2]).right() + 1, 944);
-    EXPECT_EQ(rectOf(*texts[1]).right() + 1 + 14 + 1 + 14, rectOf(*texts[2]).left());
-    EXPECT_LE(rectOf(*texts[0]).right() + 1 + 14 + 1 + 14, rectOf(*texts[1]).left());
+    ASSERT_EQ(texts.size(), 5);  // message, two chips, and these
+    EXPECT_EQ(texts[3]->text(), "Protocol: SinoWealth K916 (BYCOMBO4)");
+    EXPECT_EQ(texts[4]->text(), "VID: 0x258A | PID: 0x010C");
+    EXPECT_EQ(rectOf(*texts[4]).right() + 1, 944);
+    EXPECT_EQ(rectOf(*texts[3]).right() + 1 + 14 + 1 + 14, rectOf(*texts[4]).left());
+}
+
+TEST_F(Layout, TheChipsStandBeforeTheFixedTexts) {
+    show();
+    const auto chips = only<StatusBar>().findChildren<StatusChip*>();
+    ASSERT_EQ(chips.size(), 2);
+    const QRect audio = rectOf(*chips[0]);
+    const QRect keys = rectOf(*chips[1]);
+    EXPECT_EQ(audio.height(), 18);
+    EXPECT_LE(std::abs(audio.width() - 86), 1);
+    EXPECT_LE(std::abs(keys.width() - 83), 1);
+    EXPECT_EQ(audio.right() + 1 + 8, keys.left());
+    EXPECT_EQ(keys.right() + 1 + 14 + 1 + 14, rectOf(*only<StatusBar>().findChildren<TextLine*>().at(3)).left());
 }
 
 #ifndef Q_OS_MACOS

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "app/StatusBar.h"
+#include "app/StatusChip.h"
 #include "controls/TextLine.h"
 #include "gui/WindowFixture.h"
 
@@ -35,8 +36,8 @@ TEST_F(Status, AMessageThatIsTooLongIsElided) {
     time.settle();
     EXPECT_TRUE(statusLine().isElided());
     EXPECT_EQ(rectOf(statusLine()).left(), 16);
-    const TextLine& fixed = *only<StatusBar>().findChildren<TextLine*>().at(1);
-    EXPECT_EQ(rectOf(statusLine()).right() + 1, rectOf(fixed).left() - 14 - 1 - 14);
+    const StatusChip& chip = *only<StatusBar>().findChildren<StatusChip*>().front();
+    EXPECT_EQ(rectOf(statusLine()).right() + 1, rectOf(chip).left() - 14);
 }
 
 TEST_F(Status, AnAmpersandIsALetter) {

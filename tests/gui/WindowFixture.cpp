@@ -9,7 +9,16 @@
 
 namespace lumo::test {
 
+void WindowFixture::setPermissions() {
+    platform.grants.audio = AudioAuthorization::authorized;
+    platform.grants.canListen = true;
+    platform.kept.values["VexaLumoHasLaunchedBefore"] = true;
+    (void)objects.permissionManager();
+    time.advance(Duration{0});  // the first check
+}
+
 void WindowFixture::show(QSize size) {
+    setPermissions();
     view = std::make_unique<MainView>(&quit);
     view->resize(size);
     view->show();

@@ -24,6 +24,10 @@ protected:
     QAction quit{"Quit Vexa Lumo 65"};
     std::unique_ptr<MainView> view;
 
+    /// What the user has allowed, and whether the program was launched before, as the window comes up. Everything, and
+    /// no prompt is left to be seen; a test of the prompts says otherwise.
+    virtual void setPermissions();
+
     /// Makes the view, shows it as a window and waits until it is on the screen.
     void show(QSize size = {960, 760});
 

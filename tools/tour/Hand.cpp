@@ -67,6 +67,15 @@ QStringList Hand::texts() const {
     return texts;
 }
 
+int Hand::count(const QString& name) const {
+    int found = 0;
+    find(QAccessible::queryAccessibleInterface(&m_window), [&](QAccessibleInterface& element) {
+        if (!isText(element) && nameOf(element) == name) ++found;
+        return false;
+    });
+    return found;
+}
+
 QString Hand::focused() const {
     const QWidget* const focused = QApplication::focusWidget();
     return focused ? focused->accessibleName() : QString();

@@ -27,6 +27,8 @@ public:
     /// Everything that stands in the window as text.
     [[nodiscard]] QStringList texts() const;
     [[nodiscard]] bool reads(const QString& text) const { return texts().contains(text); }
+    /// How many things of that name are shown, texts not counted.
+    [[nodiscard]] int count(const QString& name) const;
     /// The name of what has the keyboard.
     [[nodiscard]] QString focused() const;
     /// In the window's coordinates.

@@ -9,6 +9,7 @@
 
 #include "Hand.h"
 #include "LightingTour.h"
+#include "PromptTour.h"
 #include "Tour.h"
 #include "app/Program.h"
 #include "demo/DemoPlatform.h"
@@ -16,21 +17,32 @@
 namespace {
 
 constexpr auto kUsage =
-    "Usage: vexa-lumo-65-tour FOLDER\n"
+    "Usage: vexa-lumo-65-tour [--later-launch] FOLDER\n"
     "\n"
-    "Drives Vexa Lumo 65 on a virtual keyboard and leaves the pictures in FOLDER, which is made if need be.\n";
+    "Drives Vexa Lumo 65 on a virtual keyboard and leaves the pictures in FOLDER, which is made if need be. The tour "
+    "of\n"
+    "a later launch is shorter: what differs from the first one.\n";
 
-QString folderOf(const QStringList& arguments) {
-    const bool wantsHelp = arguments.size() == 2 && arguments[1] == "--help";
-    if (arguments.size() != 2 || wantsHelp) {
+struct Wishes {
+    QString folder;
+    bool isLaterLaunch = false;
+};
+
+Wishes readArguments(QStringList arguments) {
+    arguments.removeFirst();
+    Wishes wishes;
+    wishes.isLaterLaunch = arguments.removeOne("--later-launch");
+    const bool wantsHelp = arguments == QStringList{"--help"};
+    if (arguments.size() != 1 || wantsHelp) {
         std::fputs(kUsage, wantsHelp ? stdout : stderr);
         std::exit(wantsHelp ? EXIT_SUCCESS : 2);
     }
-    if (!QDir().mkpath(arguments[1])) {
-        std::fprintf(stderr, "vexa-lumo-65-tour: the folder cannot be made: %s\n", qUtf8Printable(arguments[1]));
+    wishes.folder = arguments.front();
+    if (!QDir().mkpath(wishes.folder)) {
+        std::fprintf(stderr, "vexa-lumo-65-tour: the folder cannot be made: %s\n", qUtf8Printable(wishes.folder));
         std::exit(EXIT_FAILURE);
     }
-    return arguments[1];
+    return wishes;
 }
 
 QMainWindow* mainWindow() {
@@ -41,8 +53,13 @@ QMainWindow* mainWindow() {
 }
 
 struct Guide {
-    Guide(QWidget& window, const QString& folder) : hand(window), tour(window, folder) {
-        lumo::tour::addLightingPage(tour, hand, window);
+    Guide(QWidget& window, const Wishes& wishes) : hand(window), tour(window, wishes.folder) {
+        if (wishes.isLaterLaunch) {
+            lumo::tour::addLaterLaunch(tour, hand, window);
+        } else {
+            lumo::tour::addWelcome(tour, hand);
+            lumo::tour::addLightingPage(tour, hand, window);
+        }
         tour.begin();
     }
 
@@ -54,8 +71,9 @@ struct Guide {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
-    const QString folder = folderOf(QCoreApplication::arguments());
+    const Wishes wishes = readArguments(QCoreApplication::arguments());
     lumo::vk::DemoPlatform platform{lumo::vk::ReportLog()};
+    if (wishes.isLaterLaunch) platform.setLaunchedBefore();
     std::unique_ptr<Guide> guide;
     // The window is made in the first turn of the loop, and this looks for it in a later one.
     QTimer start;
@@ -63,7 +81,7 @@ int main(int argc, char** argv) {
         QMainWindow* const window = mainWindow();
         if (guide || !window || !window->windowHandle() || !window->windowHandle()->isExposed()) return;
         start.stop();
-        guide = std::make_unique<Guide>(*window, folder);
+        guide = std::make_unique<Guide>(*window, wishes);
     });
     start.start(20);
     lumo::runProgram(application, platform);

@@ -1,0 +1,56 @@
+// A question above everything else in the window: a card over the dimmed view, and no way past it.
+#pragma once
+
+#include <QGraphicsOpacityEffect>
+#include <QPointer>
+#include <QWidget>
+
+#include "controls/Accessible.h"
+#include "controls/Appearance.h"
+#include "controls/SoftShadow.h"
+
+namespace lumo {
+
+class PushControl;
+
+/// Main thread. Lies over its whole parent, hidden at first. While it is shown it takes every press and the keyboard:
+/// Tab goes round its two buttons, Escape presses the second. The focus goes back to where it came from.
+class Popup final : public QWidget, public AccessibleSource {
+    Q_OBJECT
+
+public:
+    /// `heading` is what assistive technology calls it. Owns the card, which holds the buttons and knows its size.
+    Popup(const QString& heading, QWidget* card, PushControl& first, PushControl& second, QWidget* parent);
+
+    void setShown(bool isShown);
+    [[nodiscard]] bool isShown() const { return m_isShown; }
+    /// Neither coming nor going.
+    [[nodiscard]] bool isResting() const { return m_dimming.isResting() && m_coming.isResting(); }
+
+    QAccessibleInterface* makeAccessible() override;
+
+protected:
+    bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool isNext) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void takeFocus();
+    void giveFocusBack();
+    void followAppearance();
+    [[nodiscard]] QRect cardPlace() const;
+
+    QWidget* m_card;
+    PushControl& m_first;
+    PushControl& m_second;
+    QGraphicsOpacityEffect* m_opacity;  // of the card, while it comes and goes
+    QPointer<QWidget> m_focusBefore;
+    SoftShadow m_shadow;
+    bool m_isShown = false;
+    Appearance m_dimming;
+    Appearance m_coming;
+};
+
+}  // namespace lumo

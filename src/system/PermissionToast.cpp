@@ -1,0 +1,103 @@
+#include "system/PermissionToast.h"
+
+#include <QPainter>
+
+#include "app/UIState.h"
+#include "controls/DropShadow.h"
+#include "controls/IconButton.h"
+#include "controls/Panel.h"
+#include "controls/PushButton.h"
+#include "controls/Symbol.h"
+#include "controls/Theme.h"
+#include "system/PermissionManager.h"
+#include "system/ToastText.h"
+
+namespace lumo {
+namespace {
+
+constexpr QRect kSymbolFrame{16, 19, 22, 22};
+constexpr QRect kTextPlace{50, 13, 288, 34};
+constexpr QRect kFixPlace{350, 16, 104, 28};
+constexpr QPoint kClosePlace{460, 16};
+constexpr double kCloseSymbol = 16.0;
+
+SoftShadow toastShadow() { return {0.50, 16.0, 10.0}; }
+
+class AccessibleToast final : public QAccessibleWidget {
+public:
+    explicit AccessibleToast(PermissionToast& toast) : QAccessibleWidget(&toast, QAccessible::AlertMessage) {}
+};
+
+}  // namespace
+
+PermissionToast::PermissionToast(PermissionManager& permissions, UIState& state, QWidget* parent)
+    : QWidget(parent),
+      m_text(new ToastText("Audio reactive lighting or macros not working?",
+                           "Permissions missing. Click to open Settings.", this)),
+      m_fix(new PushButton("Fix in Settings", look::kPrimary, this)),
+      m_close(new IconButton("Dismiss notification", "xmark", kCloseSymbol, this)),
+      m_opacity(new QGraphicsOpacityEffect(this)),
+      m_coming(theme::kPromptInMs, [this] { followAppearance(); }) {
+    setAccessibleName(m_text->text());
+    hide();
+    resize(kSize);
+    setGraphicsEffect(m_opacity);
+    m_shadow = new DropShadow(*this, toastShadow());
+    m_text->setGeometry(kTextPlace);
+    m_fix->setGeometry(kFixPlace);
+    m_close->move(kClosePlace);
+    const auto openSettings = [&state] { state.currentTab.set(NavTab::settings); };
+    connect(m_text, &PushControl::clicked, this, openSettings);
+    connect(m_fix, &PushControl::clicked, this, openSettings);
+    connect(m_close, &PushControl::clicked, this, [&permissions] { permissions.dismissToast(); });
+}
+
+void PermissionToast::setShown(bool isShown) {
+    if (isShown == m_isShown) return;
+    m_isShown = isShown;
+    setAttribute(Qt::WA_TransparentForMouseEvents, !isShown);  // what is on its way out stands in nobody's way
+    if (isShown) {
+        place();
+        show();
+        QAccessibleEvent alert(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+        announce(*this, accessibleName());
+    }
+    m_coming.setShown(isShown);
+}
+
+void PermissionToast::setCorner(QPoint corner) {
+    m_corner = corner;
+    place();
+}
+
+void PermissionToast::comeLastInTabOrder() {
+    for (QWidget* const control :
+         {static_cast<QWidget*>(m_text), static_cast<QWidget*>(m_fix), static_cast<QWidget*>(m_close)}) {
+        QWidget* const last = window()->previousInFocusChain();  // the order is a circle, which begins at the window
+        if (last != control) setTabOrder(last, control);
+    }
+}
+
+void PermissionToast::followAppearance() {
+    m_opacity->setEnabled(share() < 1.0);
+    m_opacity->setOpacity(share());
+    m_shadow->setShare(share());
+    place();
+    if (m_coming.isGone()) hide();
+    emit shareChanged();
+}
+
+void PermissionToast::place() {
+    move(m_corner - QPoint(kSize.width(), kSize.height()) + QPoint(0, qRound(m_coming.drop())));
+}
+
+QAccessibleInterface* PermissionToast::makeAccessible() { return new AccessibleToast(*this); }
+
+void PermissionToast::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintPanel(painter, rect(), theme::kCardRadius, theme::kToast, theme::kToastLine);
+    paintSymbol(painter, kSymbolFrame, "exclamationmark.triangle.fill", theme::kTextWarn);
+}
+
+}  // namespace lumo

@@ -1,0 +1,54 @@
+// The card of a popup about permissions: symbol, heading, text, a box, and two buttons side by side.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <string_view>
+
+namespace lumo {
+
+class PushButton;
+class TextBlock;
+class TextLine;
+
+/// Main thread. As high as its texts need.
+class PromptCard final : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int kWidth = 448;
+    static constexpr int kContentWidth = 392;
+
+    struct Symbol {
+        int height = 0;  // and width
+        std::function<void(QPainter& painter, const QRectF& frame)> paint;
+    };
+    struct Texts {
+        std::string_view heading;
+        std::string_view text;
+        const char* firstButton = "";
+        const char* secondButton = "";
+    };
+
+    /// Owns the box, which has its size already.
+    PromptCard(Symbol symbol, const Texts& texts, QWidget* box);
+
+    [[nodiscard]] PushButton& first() const { return *m_first; }
+    [[nodiscard]] PushButton& second() const { return *m_second; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    Symbol m_symbol;
+    TextBlock* m_heading;
+    TextBlock* m_text;
+    QWidget* m_box;
+    PushButton* m_first;
+    PushButton* m_second;
+};
+
+}  // namespace lumo

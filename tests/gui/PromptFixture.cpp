@@ -1,0 +1,51 @@
+#include "gui/PromptFixture.h"
+
+#include <QTest>
+#include <stdexcept>
+
+#include "controls/Popup.h"
+#include "controls/PushControl.h"
+#include "system/PermissionToast.h"
+
+namespace lumo::test {
+
+Popup& PromptFixture::popup(const QString& heading) const {
+    for (Popup* const each : view->findChildren<Popup*>()) {
+        if (each->accessibleName() == heading) return *each;
+    }
+    throw std::invalid_argument("no popup " + heading.toStdString());
+}
+
+PermissionToast& PromptFixture::toast() const { return only<PermissionToast>(); }
+
+void PromptFixture::click(const QString& name) {
+    QTest::mouseClick(view->windowHandle(), Qt::LeftButton, {}, rectOf(control(name)).center());
+    time.advance(Duration{0});
+}
+
+void PromptFixture::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(view->windowHandle(), key, modifiers);
+    time.advance(Duration{0});
+}
+
+void PromptFixture::waitForFades() {
+    const auto isResting = [this] {
+        for (const Popup* const each : view->findChildren<Popup*>()) {
+            if (!each->isResting()) return false;
+        }
+        return toast().isResting();
+    };
+    ASSERT_TRUE(QTest::qWaitFor(isResting));
+}
+
+QString PromptFixture::focusedName() const {
+    const QWidget* const focused = view->window()->focusWidget();
+    return focused ? focused->accessibleName() : QString();
+}
+
+QString PromptFixture::widgetAt(QPoint point) const {
+    const QWidget* const widget = view->childAt(point);
+    return widget ? widget->accessibleName() : QString();
+}
+
+}  // namespace lumo::test

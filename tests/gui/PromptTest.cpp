@@ -1,0 +1,175 @@
+// What the prompts about permissions do, with real clicks.
+#include <gmock/gmock.h>
+
+#include <QTest>
+
+#include "app/StatusBar.h"
+#include "app/StatusChip.h"
+#include "controls/Popup.h"
+#include "controls/PushControl.h"
+#include "gui/PromptFixture.h"
+#include "system/PermissionToast.h"
+
+namespace lumo {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr auto kMicrophoneLink = "open x-apple.systempreferences:com.apple.preference.security?Privacy_Microphone";
+constexpr auto kListenLink = "open x-apple.systempreferences:com.apple.preference.security?Privacy_ListenEvent";
+constexpr auto kFlagWritten = "set VexaLumoHasLaunchedBefore true";
+constexpr auto kToastText =
+    "Audio reactive lighting or macros not working? Permissions missing. Click to open Settings.";
+
+using Prompt = test::PromptFixture;
+
+TEST_F(Prompt, TheFirstLaunchShowsTheWelcomeAlone) {
+    show();
+    time.advance(Duration{0});
+    EXPECT_TRUE(welcome().isVisible());
+    EXPECT_FALSE(recheck().isVisible());
+    EXPECT_FALSE(toast().isVisible());
+}
+
+TEST_F(Prompt, ALaterLaunchWithAGrantMissingShowsPopupAndToast) {
+    showLaterLaunch();
+    time.advance(Duration{0});
+    EXPECT_FALSE(welcome().isVisible());
+    EXPECT_TRUE(recheck().isVisible());
+    EXPECT_TRUE(toast().isVisible());
+}
+
+TEST_F(Prompt, GrantPermissionsClosesTheWelcomeAtOnceAndAsksForTheKeysAfterTheMicrophone) {
+    show();
+    click("Grant Permissions");
+    EXPECT_FALSE(welcome().isShown());
+    EXPECT_THAT(platform.journal, ElementsAre("request audio", kFlagWritten));
+    platform.grants.answerMicrophone(true);
+    time.advance(Duration{0});
+    EXPECT_THAT(platform.journal,
+                ElementsAre("request audio", kFlagWritten, "request listen", "trusted, with prompt", kListenLink));
+    EXPECT_EQ(state().currentTab.get(), NavTab::lighting);
+}
+
+TEST_F(Prompt, LaterLandsOnTheSettingsAndTheWelcomeNeverComesBack) {
+    show();
+    click("Later / Settings");
+    EXPECT_EQ(state().currentTab.get(), NavTab::settings);
+    EXPECT_FALSE(welcome().isShown());
+    EXPECT_THAT(platform.journal, ElementsAre(kFlagWritten));
+    const auto next = PermissionManager::make(time.mainQueue(), platform.grants, platform.surroundings, platform.kept);
+    EXPECT_FALSE(next->showFirstLaunchPopup.get());
+}
+
+TEST_F(Prompt, LaterWritesTheFlagBeforeItChangesThePage) {
+    show();
+    std::vector<std::string> atChange;
+    const auto watching = state().observe([&] { atChange = platform.journal; });
+    click("Later / Settings");
+    EXPECT_THAT(atChange, ElementsAre(kFlagWritten));
+}
+
+TEST_F(Prompt, TheWelcomeGoesByItselfOnceEverythingIsGranted) {
+    show();
+    platform.grants.audio = AudioAuthorization::authorized;
+    platform.grants.isTrusted = true;
+    time.advance(std::chrono::seconds(2));
+    EXPECT_FALSE(welcome().isShown());
+}
+
+TEST_F(Prompt, FixInSystemSettingsOpensTheMicrophonePaneAlsoWhenOnlyTheKeysAreMissing) {
+    platform.grants.audio = AudioAuthorization::authorized;
+    showLaterLaunch();
+    std::vector<bool> popupAtChange;
+    const auto watching = state().observe([&] { popupAtChange.push_back(permissions().showRecheckPopup.get()); });
+    click("Fix in System Settings");
+    EXPECT_THAT(platform.journal, ElementsAre(kMicrophoneLink));
+    EXPECT_THAT(popupAtChange, ElementsAre(false));  // dismissed first, and before the page the pane is not opened
+    EXPECT_EQ(state().currentTab.get(), NavTab::settings);
+    EXPECT_FALSE(recheck().isShown());
+}
+
+TEST_F(Prompt, DismissToSettingsOpensNothing) {
+    showLaterLaunch();
+    click("Dismiss to Settings");
+    EXPECT_THAT(platform.journal, IsEmpty());
+    EXPECT_EQ(state().currentTab.get(), NavTab::settings);
+    EXPECT_FALSE(recheck().isShown());
+    EXPECT_TRUE(toast().isVisible());  // the toast is closed on its own
+}
+
+TEST_F(Prompt, TheToastsTextAndButtonLeadToTheSettingsAndLeaveItStanding) {
+    showLaterLaunch();
+    permissions().dismissRecheckPopup();
+    time.advance(Duration{0});
+    for (const char* const name : {kToastText, "Fix in Settings"}) {
+        state().currentTab.set(NavTab::lighting);
+        time.advance(Duration{0});
+        click(name);
+        EXPECT_EQ(state().currentTab.get(), NavTab::settings) << name;
+        EXPECT_TRUE(permissions().showPermissionToast.get()) << name;
+    }
+    EXPECT_THAT(platform.journal, IsEmpty());
+}
+
+TEST_F(Prompt, ClosingTheToastLeavesThePopupAndTheReverse) {
+    showLaterLaunch();
+    control("Dismiss notification").click();  // the popup lies above it
+    time.advance(Duration{0});
+    EXPECT_FALSE(permissions().showPermissionToast.get());
+    EXPECT_TRUE(recheck().isShown());
+    click("Dismiss to Settings");
+    EXPECT_FALSE(recheck().isShown());
+}
+
+TEST_F(Prompt, TheToastGoesWithTheCloseButton) {
+    showLaterLaunch();
+    permissions().dismissRecheckPopup();
+    time.advance(Duration{0});
+    click("Dismiss notification");
+    waitForFades();
+    EXPECT_FALSE(toast().isVisible());
+    EXPECT_EQ(state().currentTab.get(), NavTab::lighting);
+}
+
+TEST_F(Prompt, ThePopupLiesAboveTheToast) {
+    showLaterLaunch();
+    waitForFades();
+    EXPECT_TRUE(toast().isVisible());
+    EXPECT_EQ(widgetAt(rectOf(control("Fix in Settings")).center()), "Permissions Setup Needed");
+}
+
+TEST_F(Prompt, TheBackdropTakesEveryClickAndDoesNothingWithIt) {
+    show();
+    const QString before = focusedName();
+    for (const QPoint at : {QPoint(100, 70), QPoint(60, 380), QPoint(300, 200), QPoint(480, 20), QPoint(800, 650)}) {
+        QTest::mouseClick(view->windowHandle(), Qt::LeftButton, {}, at);
+        time.advance(Duration{0});
+    }
+    EXPECT_TRUE(welcome().isShown());
+    EXPECT_EQ(state().currentTab.get(), NavTab::lighting);
+    EXPECT_EQ(state().activeProfile.get(), 1);
+    EXPECT_TRUE(keyboard().selectedKeyIds.get().empty());
+    EXPECT_EQ(focusedName(), before);
+    EXPECT_THAT(platform.journal, IsEmpty());
+}
+
+TEST_F(Prompt, TheChipsTellTheTwoGrantsApart) {
+    platform.grants.audio = AudioAuthorization::denied;
+    platform.grants.canListen = true;
+    show();
+    time.advance(Duration{0});
+    const auto chips = only<StatusBar>().findChildren<StatusChip*>();
+    ASSERT_EQ(chips.size(), 2);
+    EXPECT_FALSE(chips[0]->isGranted());  // Audio Sync
+    EXPECT_TRUE(chips[1]->isGranted());   // Macro Tap
+    platform.grants.audio = AudioAuthorization::authorized;
+    platform.grants.canListen = false;
+    time.advance(std::chrono::seconds(2));
+    EXPECT_TRUE(chips[0]->isGranted());
+    EXPECT_FALSE(chips[1]->isGranted());
+}
+
+}  // namespace
+}  // namespace lumo
