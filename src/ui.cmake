@@ -128,6 +128,10 @@ endif()
 
 add_executable(vexa-lumo-65 app/main.cpp)
 target_link_libraries(vexa-lumo-65 PRIVATE lumo_ui lumo_options)
-install(TARGETS vexa-lumo-65 DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/vexa_lumo_macos/assets/ DESTINATION ${CMAKE_INSTALL_DATADIR}/vexa-lumo-65
-    COMPONENT artwork PATTERN svg EXCLUDE)
+if(APPLE)
+    include(${PROJECT_SOURCE_DIR}/packaging/macos/bundle.cmake)
+else()
+    install(TARGETS vexa-lumo-65 DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/vexa_lumo_macos/assets/ DESTINATION ${CMAKE_INSTALL_DATADIR}/vexa-lumo-65
+        COMPONENT artwork PATTERN svg EXCLUDE)
+endif()

@@ -58,7 +58,7 @@ protected:
 
 inline CFTypeRef number(std::int32_t value) { return CFNumberCreate(kCFAllocatorDefault, kCFNumberSInt32Type, &value); }
 inline CFTypeRef real(double value) { return CFNumberCreate(kCFAllocatorDefault, kCFNumberDoubleType, &value); }
-inline CFTypeRef boolean() { return fakemac::referenceTo<CFBooleanRef>(new fakemac::Boolean); }
+inline CFTypeRef boolean() { return fakemac::referenceTo<CFBooleanRef>(new fakemac::Boolean(true)); }
 inline CFTypeRef text(std::string utf8) {
     return fakemac::referenceTo<CFStringRef>(new fakemac::String(std::move(utf8)));
 }

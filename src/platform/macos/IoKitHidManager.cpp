@@ -3,9 +3,9 @@
 #include <IOKit/IOReturn.h>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
+#include "platform/macos/CfDictionary.h"
 #include "platform/macos/FatalError.h"
 #include "platform/macos/IoKitHidDevice.h"
 
@@ -18,21 +18,17 @@ CfRef<CFNumberRef> makeNumber(std::int32_t value) {
     return CfRef<CFNumberRef>::adopt(CFNumberCreate(kCFAllocatorDefault, kCFNumberSInt32Type, &value));
 }
 
-CfRef<CFDictionaryRef> makeDictionary(const HidMatch& match) {
+CfRef<CFDictionaryRef> makeDictionaryOf(const HidMatch& match) {
     const auto vendor = makeNumber(match.vendorId);
     const auto product = makeNumber(match.productId);
-    std::array<const void*, 2> keys{CFSTR("VendorID"), CFSTR("ProductID")};
-    std::array<const void*, 2> values{vendor.get(), product.get()};
-    return CfRef<CFDictionaryRef>::adopt(CFDictionaryCreate(kCFAllocatorDefault, keys.data(), values.data(),
-                                                            std::ssize(keys), &kCFTypeDictionaryKeyCallBacks,
-                                                            &kCFTypeDictionaryValueCallBacks));
+    return makeDictionary<2>({CFSTR("VendorID"), CFSTR("ProductID")}, {vendor.get(), product.get()});
 }
 
 CfRef<CFArrayRef> makeMatching(const std::vector<HidMatch>& matches) {
     std::vector<CfRef<CFDictionaryRef>> dictionaries;
     std::vector<const void*> values;
     for (const HidMatch& match : matches) {
-        dictionaries.push_back(makeDictionary(match));
+        dictionaries.push_back(makeDictionaryOf(match));
         values.push_back(dictionaries.back().get());
     }
     return CfRef<CFArrayRef>::adopt(

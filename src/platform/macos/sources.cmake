@@ -4,11 +4,15 @@ set(lumo_objective_c
     ${lumo_macos}/Activation.mm
     ${lumo_macos}/MainMenu.mm
     ${lumo_macos}/NativeBundle.mm
+    ${lumo_macos}/NativeDesktop.mm
+    ${lumo_macos}/NativePreferences.mm
+    ${lumo_macos}/NativePrivacy.mm
     ${lumo_macos}/ReducedMotion.mm
     ${lumo_macos}/SystemSymbol.mm
     ${lumo_macos}/WindowChrome.mm
 )
 target_sources(lumo_platform PRIVATE
+    ${lumo_macos}/EventAccess.cpp
     ${lumo_macos}/IoKitHidDevice.cpp
     ${lumo_macos}/IoKitHidManager.cpp
     ${lumo_macos}/IoThread.cpp
@@ -17,5 +21,5 @@ target_sources(lumo_platform PRIVATE
 )
 set_source_files_properties(${lumo_objective_c} PROPERTIES COMPILE_OPTIONS -fobjc-arc)
 target_link_libraries(lumo_platform PUBLIC
-    "-framework AppKit" "-framework CoreFoundation" "-framework CoreGraphics" "-framework Foundation"
-    "-framework IOKit" objc)
+    "-framework AVFoundation" "-framework AppKit" "-framework ApplicationServices" "-framework CoreFoundation"
+    "-framework CoreGraphics" "-framework Foundation" "-framework IOKit" objc)

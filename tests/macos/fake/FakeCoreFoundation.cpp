@@ -26,6 +26,13 @@ CFStringRef literal(const std::string& text) {
     return referenceTo<CFStringRef>(string.get());
 }
 
+// They live as long as the process, too.
+CFBooleanRef constant(bool value) {
+    static Boolean booleans[]{Boolean(false), Boolean(true)};
+    --g_live;
+    return referenceTo<CFBooleanRef>(&booleans[value ? 1 : 0]);
+}
+
 std::vector<const void*> copied(const void** values, CFIndex count) {
     return std::vector<const void*>(values, values + count);  // in braces it would hold the two pointers themselves
 }
@@ -91,6 +98,8 @@ const CFAllocatorRef kCFAllocatorDefault = nullptr;
 const CFArrayCallBacks kCFTypeArrayCallBacks{};
 const CFDictionaryKeyCallBacks kCFTypeDictionaryKeyCallBacks{};
 const CFDictionaryValueCallBacks kCFTypeDictionaryValueCallBacks{};
+const CFBooleanRef kCFBooleanTrue = fakemac::constant(true);
+const CFBooleanRef kCFBooleanFalse = fakemac::constant(false);
 const CFRunLoopMode kCFRunLoopDefaultMode = fakemac::literal("kCFRunLoopDefaultMode");
 
 CFStringRef __CFStringMakeConstantString(const char* text) { return fakemac::literal(text); }

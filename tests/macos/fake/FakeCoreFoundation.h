@@ -31,7 +31,7 @@ private:
     std::atomic<long> m_references = 1;
 };
 
-/// Objects that were created and not yet destroyed, string literals not counted.
+/// Objects that were created and not yet destroyed; string literals and the two booleans are not counted.
 [[nodiscard]] long liveObjects();
 
 /// The object behind a reference; stops the process on NULL, as CoreFoundation does.
@@ -63,7 +63,8 @@ public:
 
 class Boolean final : public Object {
 public:
-    Boolean() : Object(kBooleanType) {}
+    explicit Boolean(bool boolean) : Object(kBooleanType), value(boolean) {}
+    const bool value;
 };
 
 /// Retains its values only where the collection was created with the standard callbacks.

@@ -1,4 +1,5 @@
-// AppKit: the application, its menu and its window, symbols drawn into memory, and what the user wishes of all of them.
+// AppKit: the application, its menu and its window, symbols drawn into memory, the desktop around them, and what the
+// user wishes of all of them.
 #pragma once
 
 #include <CoreGraphics/CoreGraphics.h>
@@ -34,6 +35,10 @@ typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
 - (void)terminate:(nullable id)sender;
 @end
 extern "C" NSApplication* _Null_unspecified NSApp;
+extern "C" NSNotificationName NSApplicationDidBecomeActiveNotification;
+
+@interface NSRunningApplication : NSObject
+@end
 
 @interface NSColor : NSObject
 + (NSColor*)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha API_AVAILABLE(macos(10.9));
@@ -83,8 +88,18 @@ typedef NS_ENUM(NSInteger, NSWindowTitleVisibility) {
 @property(nullable, readonly, unsafe_unretained) NSWindow* window;
 @end
 
+API_AVAILABLE(macos(10.15))
+@interface NSWorkspaceOpenConfiguration : NSObject
++ (instancetype)configuration;
+@end
+
 @interface NSWorkspace : NSObject
 @property(class, readonly, strong) NSWorkspace* sharedWorkspace;
+- (BOOL)openURL:(NSURL*)url;
+- (void)openApplicationAtURL:(NSURL*)applicationURL
+               configuration:(NSWorkspaceOpenConfiguration*)configuration
+           completionHandler:(nullable void (^)(NSRunningApplication* _Nullable app,
+                                                NSError* _Nullable error))completionHandler API_AVAILABLE(macos(10.15));
 @end
 
 @interface NSWorkspace (NSWorkspaceAccessibilityDisplay)

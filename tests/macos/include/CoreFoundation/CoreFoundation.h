@@ -52,6 +52,9 @@ CFIndex CFStringGetBytes(CFStringRef text, CFRange range, CFStringEncoding encod
                          Boolean isExternalRepresentation, UInt8* _Nullable buffer, CFIndex maxBufLen,
                          CFIndex* _Nullable usedBufLen);
 
+extern const CFBooleanRef _Null_unspecified kCFBooleanTrue;
+extern const CFBooleanRef _Null_unspecified kCFBooleanFalse;
+
 enum CFNumberType : CFIndex { kCFNumberSInt32Type = 3, kCFNumberSInt64Type = 4, kCFNumberDoubleType = 13 };
 CFTypeID CFNumberGetTypeID(void);
 CFNumberRef _Null_unspecified CFNumberCreate(CFAllocatorRef _Nullable allocator, CFNumberType type,

@@ -1,4 +1,4 @@
-// CoreGraphics: pixels in memory to draw into.
+// CoreGraphics: pixels in memory to draw into, and who may listen to keys.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -25,6 +25,9 @@ typedef CF_OPTIONS(uint32_t, CGBitmapInfo) {
 CGContextRef _Nullable CGBitmapContextCreate(void* _Nullable data, size_t width, size_t height, size_t bitsPerComponent,
                                              size_t bytesPerRow, CGColorSpaceRef _Nullable space,
                                              uint32_t bitmapInfo) CF_RETURNS_RETAINED;
+
+bool CGPreflightListenEventAccess(void) API_AVAILABLE(macos(10.15));
+bool CGRequestListenEventAccess(void) API_AVAILABLE(macos(10.15));
 
 }  // extern "C"
 CF_ASSUME_NONNULL_END

@@ -1,4 +1,4 @@
-// Foundation, as far as a menu, a window, a symbol and the bundle need it.
+// Foundation: texts, links, the bundle, the user's defaults, and who tells what to whom.
 #pragma once
 
 #include <CoreFoundation/CoreFoundation.h>
@@ -17,8 +17,11 @@ typedef CGSize NSSize;
 
 NS_ASSUME_NONNULL_BEGIN
 
+@protocol NSObject
+@end
+
 __attribute__((objc_root_class))
-@interface NSObject
+@interface NSObject<NSObject>
 + (instancetype)alloc;
 - (instancetype)init;
 @end
@@ -36,10 +39,42 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 @interface NSConstantString : NSString
 @end
 
+@interface NSURL : NSObject
++ (nullable instancetype)URLWithString:(NSString*)URLString;
+@end
+
+@interface NSError : NSObject
+@end
+
 @interface NSBundle : NSObject
 @property(class, readonly, strong) NSBundle* mainBundle;
+@property(readonly, copy) NSURL* bundleURL API_AVAILABLE(macos(10.6));
 @property(nullable, readonly, copy) NSString* resourcePath;
 - (nullable NSString*)pathForResource:(nullable NSString*)name ofType:(nullable NSString*)ext;
+@end
+
+@interface NSUserDefaults : NSObject
+@property(class, readonly, strong) NSUserDefaults* standardUserDefaults;
+- (BOOL)boolForKey:(NSString*)defaultName;
+- (void)setBool:(BOOL)value forKey:(NSString*)defaultName;
+@end
+
+@interface NSOperationQueue : NSObject
+@property(class, readonly, strong) NSOperationQueue* mainQueue API_AVAILABLE(macos(10.6));
+@end
+
+typedef NSString* NSNotificationName;
+
+@interface NSNotification : NSObject
+@end
+
+@interface NSNotificationCenter : NSObject
+@property(class, readonly, strong) NSNotificationCenter* defaultCenter;
+- (id<NSObject>)addObserverForName:(nullable NSNotificationName)name
+                            object:(nullable id)obj
+                             queue:(nullable NSOperationQueue*)queue
+                        usingBlock:(void (^)(NSNotification* notification))block API_AVAILABLE(macos(10.6));
+- (void)removeObserver:(id)observer;
 @end
 
 NS_ASSUME_NONNULL_END
