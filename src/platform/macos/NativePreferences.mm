@@ -1,5 +1,6 @@
 #include "platform/NativePreferences.h"
 
+#import <CoreFoundation/CoreFoundation.h>
 #import <Foundation/Foundation.h>
 
 #include "platform/macos/NsText.h"
@@ -20,7 +21,10 @@ class UserDefaults final : public Preferences {
     void setBool(bool value, std::string_view key) override {
         @autoreleasepool {
             NSString* name = nsText(key);
-            if (name) [NSUserDefaults.standardUserDefaults setBool:(value ? YES : NO) forKey:name];
+            if (!name) return;
+            [NSUserDefaults.standardUserDefaults setBool:(value ? YES : NO) forKey:name];
+            // At once: quitting ends the process without another turn of the run loop.
+            CFPreferencesAppSynchronize(kCFPreferencesCurrentApplication);
         }
     }
 };

@@ -79,6 +79,9 @@ CFDictionaryRef _Null_unspecified CFDictionaryCreate(
 CFIndex CFSetGetCount(CFSetRef set);
 void CFSetGetValues(CFSetRef set, const void* _Nullable* _Null_unspecified values);
 
+extern const CFStringRef kCFPreferencesCurrentApplication;
+Boolean CFPreferencesAppSynchronize(CFStringRef applicationID);
+
 extern const CFRunLoopMode kCFRunLoopDefaultMode;
 CFRunLoopRef CFRunLoopGetMain(void);
 
