@@ -7,6 +7,7 @@ import stories
 
 def tell(checks, window, application, keyboard):
     stories.starts_without_keyboard(checks, window)
+    stories.launch_is_over(checks, window)
     nodes = stories.plug(checks, keyboard)
     stories.connects(checks, window, application, keyboard)
     stories.handshake_is_one_pair(checks, keyboard.transfers())

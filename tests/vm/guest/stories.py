@@ -1,10 +1,13 @@
 """What every keyboard's chapter begins with and what an effect looks like on the wire."""
 
+import os
+
 import expected
 import hidraw
 
 DISCONNECTED = "Simulated / Disconnected"
 HANDSHAKE_LINE = "[VexaProtocol] Handshake verified with hardware!"
+LAUNCHED = "[General]\nVexaLumoHasLaunchedBefore=true\n"
 MS = 1000
 
 
@@ -23,6 +26,19 @@ def starts_without_keyboard(checks, window):
     checks.eventually("without a keyboard the header reads \"Simulated / Disconnected\"", window.header,
                       lambda texts: DISCONNECTED in texts)
     checks.equal("and the status \"Ready\"", window.status()[:1], ["Ready"])
+
+
+def launch_is_over(checks, window):
+    """Nothing here asks a user for grants: the prompts of a launch are gone as soon as they came."""
+    checks.eventually("no prompt is left to be answered", window.dialogs, lambda names: not names)
+    checks.eventually("both lights of the status bar say \"Granted\"", window.status,
+                      lambda texts: texts.count("Granted") == 2)
+    checks.equal("the launch is remembered in the user's configuration folder", preferences(), LAUNCHED)
+
+
+def preferences():
+    with open(f"{os.environ['HOME']}/.config/vexa-lumo-65/preferences.ini", encoding="utf-8") as file:
+        return file.read()
 
 
 def connects(checks, window, application, keyboard, times=1):

@@ -49,6 +49,12 @@ class Window:
         """True when that text stands somewhere in the window."""
         return self._find("label", text) is not None
 
+    def dialogs(self):
+        """The names of the questions that lie above the window."""
+        frame = self._frame()
+        below = elements.levels(self._bus, frame.children) if frame else []
+        return [one.name for level in below for one in level if one.role == "dialog"]
+
     def slide(self, name, level):
         """One use of a slider, which ends at that level. True when the slider took it."""
         slider = self._find("slider", name)
