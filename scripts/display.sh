@@ -4,14 +4,15 @@
 displayPid=
 
 # Starts one Xvfb on a number the server picks itself, and sets DISPLAY. The server writes the number once it
-# accepts connections, so reading it is all the waiting there is.
+# accepts connections, so reading it is all the waiting there is. Left alone it would begin anew whenever the last
+# program is gone, and refuse the next one meanwhile.
 startDisplay() {
     local pipe number=
     pipe=$(mktemp -u)
     mkfifo "$pipe"
     exec 9<>"$pipe"
     rm "$pipe"
-    Xvfb -displayfd 9 -screen 0 1600x1200x24 -nolisten tcp >/dev/null 2>&1 &
+    Xvfb -displayfd 9 -noreset -screen 0 1600x1200x24 -nolisten tcp >/dev/null 2>&1 &
     displayPid=$!
     for _ in {1..60}; do
         ! read -r -t 1 number <&9 || break

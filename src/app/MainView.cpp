@@ -73,7 +73,9 @@ MainView::MainView(QAction* quit, QWidget* parent)
     connect(m_header, &HeaderBar::profileChosen, this, &MainView::switchProfile);
     connect(m_navigation, &NavigationBar::chosen, this, [this](NavTab tab) { m_state.currentTab.set(tab); });
     connect(m_toast, &PermissionToast::shareChanged, this, &MainView::placePage);
-    refresh();
+    showContent();
+    // The prompts a turn later, behind the first check of the grants: what that takes away again never comes up.
+    m_refresh.request();
 }
 
 void MainView::switchProfile(std::int64_t number) {
@@ -82,13 +84,17 @@ void MainView::switchProfile(std::int64_t number) {
 }
 
 void MainView::refresh() {
+    showContent();
+    showPrompts();
+}
+
+void MainView::showContent() {
     m_header->setActiveProfile(m_state.activeProfile.get());
     m_header->setConnection(m_link.isConnected.get(), m_link.connectionType.get());
     m_navigation->setSelected(m_state.currentTab.get());
     showTab(m_state.currentTab.get());
     m_status->setMessage(m_link.statusMessage.get());
     m_status->setGrants(m_permissions.isMicrophoneAuthorized.get(), m_permissions.isInputMonitoringAuthorized.get());
-    showPrompts();
 }
 
 void MainView::showPrompts() {

@@ -41,6 +41,7 @@ protected:
 private:
     void switchProfile(std::int64_t number);
     void showTab(NavTab tab);
+    void showContent();
     void showPrompts();
     void placePage();
     void refresh();

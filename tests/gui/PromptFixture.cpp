@@ -18,6 +18,11 @@ Popup& PromptFixture::popup(const QString& heading) const {
 
 PermissionToast& PromptFixture::toast() const { return only<PermissionToast>(); }
 
+void PromptFixture::activate() {
+    view->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
+}
+
 void PromptFixture::click(const QString& name) {
     QTest::mouseClick(view->windowHandle(), Qt::LeftButton, {}, rectOf(control(name)).center());
     time.advance(Duration{0});

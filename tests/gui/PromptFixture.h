@@ -19,10 +19,16 @@ protected:
     void setPermissions() override {
         if (isLaterLaunch) platform.kept.values["VexaLumoHasLaunchedBefore"] = true;
     }
+    /// The prompts come up a turn after the rest.
+    void showFirstLaunch(QSize size = {960, 760}) {
+        show(size);
+        time.advance(Duration{0});
+    }
     void showLaterLaunch(QSize size = {960, 760}) {
         isLaterLaunch = true;
-        show(size);
+        showFirstLaunch(size);
     }
+    void activate();
     PermissionManager& permissions() { return objects.permissionManager(); }
 
     /// The one of that heading.

@@ -31,12 +31,14 @@ protected:
 };
 
 TEST_F(PromptFocus, MovesIntoThePopupWhenItOpens) {
-    showActive();
+    showFirstLaunch();
+    activate();
     EXPECT_EQ(focusedName(), "Grant Permissions");
 }
 
 TEST_F(PromptFocus, StaysInside) {
-    showActive();
+    showFirstLaunch();
+    activate();
     key(Qt::Key_Tab);
     EXPECT_EQ(focusedName(), "Later / Settings");
     key(Qt::Key_Tab);
@@ -46,15 +48,16 @@ TEST_F(PromptFocus, StaysInside) {
 }
 
 TEST_F(PromptFocus, ShowsItsRingOnceTheKeyboardIsUsed) {
-    showActive();
+    showFirstLaunch();
+    activate();
     EXPECT_FALSE(control("Grant Permissions").showsRing());
     key(Qt::Key_Tab);
     EXPECT_TRUE(control("Later / Settings").showsRing());
 }
 
 TEST_F(PromptFocus, ShowsItsRingAtOnceWhereTheKeyboardWasInUse) {
-    isLaterLaunch = true;
-    showActive();
+    showLaterLaunch();
+    activate();
     permissions().dismissRecheckPopup();
     time.advance(Duration{0});
     key(Qt::Key_Tab);
@@ -64,8 +67,8 @@ TEST_F(PromptFocus, ShowsItsRingAtOnceWhereTheKeyboardWasInUse) {
 }
 
 TEST_F(PromptFocus, GoesBackToWhereItCameFrom) {
-    isLaterLaunch = true;
-    showActive();
+    showLaterLaunch();
+    activate();
     permissions().dismissRecheckPopup();
     time.advance(Duration{0});
     control("Profile 2").setFocus(Qt::TabFocusReason);
@@ -79,8 +82,8 @@ TEST_F(PromptFocus, GoesBackToWhereItCameFrom) {
 }
 
 TEST_F(PromptFocus, ComesToRestInTheWindowWhereItsFormerPlaceIsGone) {
-    isLaterLaunch = true;
-    showActive();
+    showLaterLaunch();
+    activate();
     permissions().dismissRecheckPopup();
     time.advance(Duration{0});
     row("Raindrops").setFocus(Qt::TabFocusReason);
@@ -93,7 +96,8 @@ TEST_F(PromptFocus, ComesToRestInTheWindowWhereItsFormerPlaceIsGone) {
 }
 
 TEST_F(PromptFocus, EscapeActsAsTheSecondButton) {
-    showActive();
+    showFirstLaunch();
+    activate();
     key(Qt::Key_Escape);
     EXPECT_FALSE(welcome().isShown());
     EXPECT_EQ(state().currentTab.get(), NavTab::settings);
@@ -101,22 +105,24 @@ TEST_F(PromptFocus, EscapeActsAsTheSecondButton) {
 }
 
 TEST_F(PromptFocus, ReturnPressesTheFocusedButton) {
-    showActive();
+    showFirstLaunch();
+    activate();
     key(Qt::Key_Return);
     EXPECT_THAT(platform.journal, Contains("request audio"));
     EXPECT_FALSE(welcome().isShown());
 }
 
 TEST_F(PromptFocus, NothingBehindHearsTheKeys) {
-    showActive();
+    showFirstLaunch();
+    activate();
     for (const Qt::Key each : {Qt::Key_Down, Qt::Key_Right, Qt::Key_A}) key(each);
     EXPECT_EQ(focusedName(), "Grant Permissions");
     EXPECT_TRUE(welcome().isShown());
 }
 
 TEST_F(PromptFocus, TheToastComesLastInTheOrderOfTheTabKey) {
-    isLaterLaunch = true;
-    showActive();
+    showLaterLaunch();
+    activate();
     permissions().dismissRecheckPopup();
     time.advance(Duration{0});
     view->setFocus();
@@ -130,7 +136,7 @@ TEST_F(PromptFocus, TheToastComesLastInTheOrderOfTheTabKey) {
 }
 
 TEST_F(PromptFocus, APopupIsAModalDialogOfItsHeading) {
-    show();
+    showFirstLaunch();
     const QAccessibleInterface* const dialog = accessible(*view, QAccessible::Dialog, "Welcome to Vexa Lumo 65");
     ASSERT_NE(dialog, nullptr);
     EXPECT_TRUE(dialog->state().modal);
@@ -138,7 +144,7 @@ TEST_F(PromptFocus, APopupIsAModalDialogOfItsHeading) {
 }
 
 TEST_F(PromptFocus, EveryTextOfTheWelcomeCanBeRead) {
-    show();
+    showFirstLaunch();
     const auto texts = shownTexts();
     for (const char* const text :
          {"Welcome to Vexa Lumo 65",
@@ -172,8 +178,7 @@ TEST_F(PromptFocus, TheToastIsAnAlertAndItsCloseButtonSaysWhatItDoes) {
 
 TEST_F(PromptFocus, TheChipsSayTheirStateInWords) {
     platform.grants.canListen = true;
-    show();
-    time.advance(Duration{0});
+    showFirstLaunch();
     std::vector<QString> words;
     for (const QAccessibleInterface* const dot : accessibles(*view, QAccessible::Graphic)) {
         words.push_back(nameOf(*dot));

@@ -33,7 +33,7 @@ protected:
 };
 
 TEST_F(PromptLayout, APopupCoversTheWindowAndItsCardStandsInTheMiddle) {
-    show();
+    showFirstLaunch();
     waitForFades();
     EXPECT_EQ(rectOf(welcome()), QRect(0, 0, 960, 760));
     const QRect card = cardOf(welcome());
@@ -43,7 +43,7 @@ TEST_F(PromptLayout, APopupCoversTheWindowAndItsCardStandsInTheMiddle) {
 }
 
 TEST_F(PromptLayout, TheButtonsShareTheCardsFoot) {
-    show();
+    showFirstLaunch();
     waitForFades();
     const QRect card = cardOf(welcome());
     EXPECT_EQ(rectOf(control("Grant Permissions")), QRect(card.x() + 28, card.bottom() + 1 - 24 - 36, 191, 36));
@@ -51,7 +51,7 @@ TEST_F(PromptLayout, TheButtonsShareTheCardsFoot) {
 }
 
 TEST_F(PromptLayout, APopupFollowsTheWindow) {
-    show();
+    showFirstLaunch();
     waitForFades();
     view->resize(900, 680);
     EXPECT_EQ(rectOf(welcome()), QRect(0, 0, 900, 680));
@@ -99,8 +99,7 @@ TEST_F(PromptLayout, WithoutTheToastNoPageScrolls) {
 
 TEST_F(PromptLayout, ThePageScrollsToTheControlThatTheKeyboardComesTo) {
     showToastAlone({900, 680});
-    view->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
+    activate();
     control("Dismiss notification").setFocus(Qt::TabFocusReason);
     key(Qt::Key_Tab, Qt::ShiftModifier);
     key(Qt::Key_Tab, Qt::ShiftModifier);

@@ -25,8 +25,7 @@ constexpr auto kToastText =
 using Prompt = test::PromptFixture;
 
 TEST_F(Prompt, TheFirstLaunchShowsTheWelcomeAlone) {
-    show();
-    time.advance(Duration{0});
+    showFirstLaunch();
     EXPECT_TRUE(welcome().isVisible());
     EXPECT_FALSE(recheck().isVisible());
     EXPECT_FALSE(toast().isVisible());
@@ -34,14 +33,26 @@ TEST_F(Prompt, TheFirstLaunchShowsTheWelcomeAlone) {
 
 TEST_F(Prompt, ALaterLaunchWithAGrantMissingShowsPopupAndToast) {
     showLaterLaunch();
-    time.advance(Duration{0});
     EXPECT_FALSE(welcome().isVisible());
     EXPECT_TRUE(recheck().isVisible());
     EXPECT_TRUE(toast().isVisible());
 }
 
-TEST_F(Prompt, GrantPermissionsClosesTheWelcomeAtOnceAndAsksForTheKeysAfterTheMicrophone) {
+TEST_F(Prompt, ALaterLaunchWithEverythingGrantedNeverShowsAny) {
+    platform.grants.audio = AudioAuthorization::authorized;
+    platform.grants.canListen = true;
+    const auto isAnyVisible = [this] { return recheck().isVisible() || toast().isVisible(); };
+    isLaterLaunch = true;
     show();
+    EXPECT_TRUE(permissions().showRecheckPopup.get());  // raised, until the first check is through
+    EXPECT_FALSE(isAnyVisible());
+    time.advance(Duration{0});
+    EXPECT_FALSE(permissions().showRecheckPopup.get());
+    EXPECT_FALSE(isAnyVisible());
+}
+
+TEST_F(Prompt, GrantPermissionsClosesTheWelcomeAtOnceAndAsksForTheKeysAfterTheMicrophone) {
+    showFirstLaunch();
     click("Grant Permissions");
     EXPECT_FALSE(welcome().isShown());
     EXPECT_THAT(platform.journal, ElementsAre("request audio", kFlagWritten));
@@ -53,7 +64,7 @@ TEST_F(Prompt, GrantPermissionsClosesTheWelcomeAtOnceAndAsksForTheKeysAfterTheMi
 }
 
 TEST_F(Prompt, LaterLandsOnTheSettingsAndTheWelcomeNeverComesBack) {
-    show();
+    showFirstLaunch();
     click("Later / Settings");
     EXPECT_EQ(state().currentTab.get(), NavTab::settings);
     EXPECT_FALSE(welcome().isShown());
@@ -63,7 +74,7 @@ TEST_F(Prompt, LaterLandsOnTheSettingsAndTheWelcomeNeverComesBack) {
 }
 
 TEST_F(Prompt, LaterWritesTheFlagBeforeItChangesThePage) {
-    show();
+    showFirstLaunch();
     std::vector<std::string> atChange;
     const auto watching = state().observe([&] { atChange = platform.journal; });
     click("Later / Settings");
@@ -71,7 +82,7 @@ TEST_F(Prompt, LaterWritesTheFlagBeforeItChangesThePage) {
 }
 
 TEST_F(Prompt, TheWelcomeGoesByItselfOnceEverythingIsGranted) {
-    show();
+    showFirstLaunch();
     platform.grants.audio = AudioAuthorization::authorized;
     platform.grants.isTrusted = true;
     time.advance(std::chrono::seconds(2));
@@ -141,7 +152,7 @@ TEST_F(Prompt, ThePopupLiesAboveTheToast) {
 }
 
 TEST_F(Prompt, TheBackdropTakesEveryClickAndDoesNothingWithIt) {
-    show();
+    showFirstLaunch();
     const QString before = focusedName();
     for (const QPoint at : {QPoint(100, 70), QPoint(60, 380), QPoint(300, 200), QPoint(480, 20), QPoint(800, 650)}) {
         QTest::mouseClick(view->windowHandle(), Qt::LeftButton, {}, at);
@@ -158,8 +169,7 @@ TEST_F(Prompt, TheBackdropTakesEveryClickAndDoesNothingWithIt) {
 TEST_F(Prompt, TheChipsTellTheTwoGrantsApart) {
     platform.grants.audio = AudioAuthorization::denied;
     platform.grants.canListen = true;
-    show();
-    time.advance(Duration{0});
+    showFirstLaunch();
     const auto chips = only<StatusBar>().findChildren<StatusChip*>();
     ASSERT_EQ(chips.size(), 2);
     EXPECT_FALSE(chips[0]->isGranted());  // Audio Sync

@@ -24,7 +24,7 @@ def become_user():
 def start_screen():
     """The server picks a free number and tells it once it accepts connections."""
     reader, writer = os.pipe()
-    subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
+    subprocess.Popen(["Xvfb", "-displayfd", str(writer), "-noreset", "-screen", "0", "1280x1024x24", "-nolisten", "tcp"],
                      pass_fds=[writer], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     os.close(writer)
     os.environ["DISPLAY"] = ":" + read_line(reader, "the screen")
