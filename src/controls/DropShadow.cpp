@@ -2,11 +2,12 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <utility>
 
 namespace lumo {
 
-DropShadow::DropShadow(QWidget& caster, const SoftShadow& shadow)
-    : QWidget(caster.parentWidget()), m_caster(caster), m_shadow(shadow) {
+DropShadow::DropShadow(QWidget& caster, SoftShadow shadow)
+    : QWidget(caster.parentWidget()), m_caster(caster), m_shadow(std::move(shadow)) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setVisible(!caster.isHidden());
     stackUnder(&caster);

@@ -13,7 +13,7 @@ class DropShadow final : public QWidget {
 
 public:
     /// A sibling of the caster, which owns it in effect: they have the same parent.
-    DropShadow(QWidget& caster, const SoftShadow& shadow);
+    DropShadow(QWidget& caster, SoftShadow shadow);
 
     /// A share of its opacity, 0 to 1.
     void setShare(double share);
