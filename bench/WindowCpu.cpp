@@ -42,6 +42,7 @@ void runLoopFor(int ms) {
 }
 
 void watch(const char* what, std::int64_t effect) {
+    PermissionManager::shared().completeFirstLaunch();  // without the welcome above the keyboard
     VexaProtocol::shared().activeModeId.set(effect);
     runLoopFor(kSettleMs);
     QElapsedTimer clock;
