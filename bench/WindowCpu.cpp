@@ -42,7 +42,6 @@ void runLoopFor(int ms) {
 }
 
 void watch(const char* what, std::int64_t effect) {
-    PermissionManager::shared().completeFirstLaunch();  // without the welcome above the keyboard
     VexaProtocol::shared().activeModeId.set(effect);
     runLoopFor(kSettleMs);
     QElapsedTimer clock;
@@ -67,6 +66,7 @@ int main(int argc, char** argv) {
     lumo::SharedObjects objects(platform);
     lumo::AppDelegate delegate;
     delegate.applicationDidFinishLaunching();
+    lumo::PermissionManager::shared().completeFirstLaunch();  // without the welcome above the keyboard
     lumo::watch("still", 1);
     lumo::watch("moving", 4);
     std::_Exit(EXIT_SUCCESS);

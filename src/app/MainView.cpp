@@ -65,17 +65,18 @@ MainView::MainView(QAction* quit, QWidget* parent)
       m_welcome(makeWelcomePopup(m_permissions, m_state, this)),
       m_recheck(makeRecheckPopup(m_permissions, m_state, this)),
       m_refresh(mainQueue(), [this] { refresh(); }),
+      m_permissionRefresh(mainQueue(), [this] { showPermissions(); }),
       m_linkChanges(m_link.observe([this] { m_refresh.request(); })),
       m_stateChanges(m_state.observe([this] { m_refresh.request(); })),
-      m_permissionChanges(m_permissions.observe([this] { m_refresh.request(); })) {
+      m_permissionChanges(m_permissions.observe([this] { m_permissionRefresh.request(); })) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     new FocusRing(*this);
     connect(m_header, &HeaderBar::profileChosen, this, &MainView::switchProfile);
     connect(m_navigation, &NavigationBar::chosen, this, [this](NavTab tab) { m_state.currentTab.set(tab); });
     connect(m_toast, &PermissionToast::shareChanged, this, &MainView::placePage);
-    showContent();
-    // The prompts a turn later, behind the first check of the grants: what that takes away again never comes up.
-    m_refresh.request();
+    refresh();
+    // A turn later, behind the first check of the grants: the prompts that it takes away again never come up.
+    m_permissionRefresh.request();
 }
 
 void MainView::switchProfile(std::int64_t number) {
@@ -84,20 +85,15 @@ void MainView::switchProfile(std::int64_t number) {
 }
 
 void MainView::refresh() {
-    showContent();
-    showPrompts();
-}
-
-void MainView::showContent() {
     m_header->setActiveProfile(m_state.activeProfile.get());
     m_header->setConnection(m_link.isConnected.get(), m_link.connectionType.get());
     m_navigation->setSelected(m_state.currentTab.get());
     showTab(m_state.currentTab.get());
     m_status->setMessage(m_link.statusMessage.get());
-    m_status->setGrants(m_permissions.isMicrophoneAuthorized.get(), m_permissions.isInputMonitoringAuthorized.get());
 }
 
-void MainView::showPrompts() {
+void MainView::showPermissions() {
+    m_status->setGrants(m_permissions.isMicrophoneAuthorized.get(), m_permissions.isInputMonitoringAuthorized.get());
     m_toast->setShown(m_permissions.showPermissionToast.get());
     m_welcome->setShown(m_permissions.showFirstLaunchPopup.get());
     m_recheck->setShown(m_permissions.showRecheckPopup.get());

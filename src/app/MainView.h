@@ -41,8 +41,7 @@ protected:
 private:
     void switchProfile(std::int64_t number);
     void showTab(NavTab tab);
-    void showContent();
-    void showPrompts();
+    void showPermissions();
     void placePage();
     void refresh();
 
@@ -59,6 +58,7 @@ private:
     Popup* m_recheck;
     std::optional<NavTab> m_shownTab;
     CoalescedRefresh m_refresh;
+    CoalescedRefresh m_permissionRefresh;  // apart: grants are looked at every two seconds
     Subscription m_linkChanges;
     Subscription m_stateChanges;
     Subscription m_permissionChanges;

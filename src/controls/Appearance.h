@@ -15,6 +15,7 @@ public:
     /// Runs from where it stands.
     void setShown(bool isShown);
 
+    [[nodiscard]] bool isShown() const { return m_isShown; }
     /// From 0, gone, to 1, all there.
     [[nodiscard]] double share() const { return m_share; }
     /// Neither coming nor going.

@@ -27,9 +27,8 @@ QPointF onWholePixel(const QPainter& painter, QPointF baseline) {
 }
 
 #ifdef Q_OS_MACOS
-QList<QTextLayout::FormatRange> emojiFormats(const QString&, const QFont&) {
-    return {};
-}  // the system finds the font by itself
+// The system finds the font of an emoji by itself, and draws both alike.
+QList<QTextLayout::FormatRange> emojiFormats(const QString&, const QFont&) { return {}; }
 
 void drawLetters(QPainter& painter, const QPointF& baseline, const QString& text) { painter.drawText(baseline, text); }
 #else
@@ -50,14 +49,12 @@ qsizetype lettersAtFront(QStringView text) {
     return letters;
 }
 
-/// Returns how wide it is. FreeType thickens the stems of fonts like Inter: as glyphs on a dark ground, regular would
-/// look semibold.
-double drawOutlines(QPainter& painter, const QPointF& baseline, const QString& text) {
+/// FreeType thickens the stems of fonts like Inter: as glyphs on a dark ground, regular would look semibold.
+void drawOutlines(QPainter& painter, const QPointF& baseline, const QString& text) {
     QPainterPath outlines;
     outlines.addText(baseline, painter.font(), text);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(outlines, painter.pen().brush());
-    return QFontMetricsF(painter.font()).horizontalAdvance(text);
 }
 
 /// Other fonts may have the same sign in black and white, and would come first.
@@ -80,23 +77,23 @@ QList<QTextLayout::FormatRange> emojiFormats(const QString& text, const QFont& f
     return formats;
 }
 
-/// Returns how wide it is.
-double drawEmoji(QPainter& painter, const QPointF& baseline, const QString& text) {
+/// Emojis have no outlines: they are pictures in colours of their own.
+void drawEmoji(QPainter& painter, const QPointF& baseline, const QString& text) {
     const QFont letters = painter.font();
     painter.setFont(emojiFont(letters));
     painter.drawText(baseline, text);
-    const double width = QFontMetricsF(painter.font()).horizontalAdvance(text);
     painter.setFont(letters);
-    return width;
 }
 
-/// Emojis have no outlines: they are pictures in colours of their own.
 void drawLetters(QPainter& painter, QPointF baseline, QStringView text) {
     while (!text.isEmpty()) {
         const qsizetype emoji = emojiAtFront(text);
         const QString part = text.first(emoji > 0 ? emoji : lettersAtFront(text)).toString();
-        baseline.rx() += emoji > 0 ? drawEmoji(painter, baseline, part) : drawOutlines(painter, baseline, part);
+        (emoji > 0 ? drawEmoji : drawOutlines)(painter, baseline, part);
         text = text.sliced(part.size());
+        if (text.isEmpty()) return;  // the most texts are one part, whose width nobody needs
+        const QFont font = emoji > 0 ? emojiFont(painter.font()) : painter.font();
+        baseline.rx() += QFontMetricsF(font).horizontalAdvance(part);
     }
 }
 #endif

@@ -62,11 +62,9 @@ Popup::Popup(const QString& heading, QWidget* card, PushControl& first, PushCont
 }
 
 void Popup::setShown(bool isShown) {
-    if (isShown == m_isShown) return;
-    m_isShown = isShown;
+    if (isShown == this->isShown()) return;
     setAttribute(Qt::WA_TransparentForMouseEvents, !isShown);  // what is on its way out stands in nobody's way
     if (isShown) {
-        setGeometry(parentWidget()->rect());
         show();
         takeFocus();
         QAccessibleEvent opened(this, QAccessible::DialogStart);
@@ -99,14 +97,14 @@ void Popup::followAppearance() {
     }
     m_opacity->setEnabled(m_coming.share() < 1.0);
     m_opacity->setOpacity(m_coming.share());
-    m_card->setGeometry(cardPlace());
+    m_card->move(cardCorner());
     update();
 }
 
-QRect Popup::cardPlace() const {
-    QRect place(QPoint(), m_card->sizeHint());
+QPoint Popup::cardCorner() const {
+    QRect place = m_card->rect();
     place.moveCenter(rect().center());
-    return place.translated(0, qRound(m_coming.drop()));
+    return place.topLeft() + QPoint(0, qRound(m_coming.drop()));
 }
 
 QAccessibleInterface* Popup::makeAccessible() { return new AccessiblePopup(*this); }
@@ -134,6 +132,6 @@ void Popup::paintEvent(QPaintEvent* event) {
     m_shadow.paint(painter, m_card->geometry());
 }
 
-void Popup::resizeEvent(QResizeEvent*) { m_card->setGeometry(cardPlace()); }
+void Popup::resizeEvent(QResizeEvent*) { m_card->move(cardCorner()); }
 
 }  // namespace lumo

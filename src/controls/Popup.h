@@ -19,11 +19,12 @@ class Popup final : public QWidget, public AccessibleSource {
     Q_OBJECT
 
 public:
-    /// `heading` is what assistive technology calls it. Owns the card, which holds the buttons and knows its size.
+    /// `heading` is what assistive technology calls it. Owns the card, which holds the buttons and has its size. The
+    /// parent keeps the popup as large as itself.
     Popup(const QString& heading, QWidget* card, PushControl& first, PushControl& second, QWidget* parent);
 
     void setShown(bool isShown);
-    [[nodiscard]] bool isShown() const { return m_isShown; }
+    [[nodiscard]] bool isShown() const { return m_coming.isShown(); }
     /// Neither coming nor going.
     [[nodiscard]] bool isResting() const { return m_dimming.isResting() && m_coming.isResting(); }
 
@@ -40,7 +41,7 @@ private:
     void takeFocus();
     void giveFocusBack();
     void followAppearance();
-    [[nodiscard]] QRect cardPlace() const;
+    [[nodiscard]] QPoint cardCorner() const;
 
     QWidget* m_card;
     PushControl& m_first;
@@ -48,7 +49,6 @@ private:
     QGraphicsOpacityEffect* m_opacity;  // of the card, while it comes and goes
     QPointer<QWidget> m_focusBefore;
     SoftShadow m_shadow;
-    bool m_isShown = false;
     Appearance m_dimming;
     Appearance m_coming;
 };

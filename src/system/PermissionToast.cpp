@@ -53,8 +53,7 @@ PermissionToast::PermissionToast(PermissionManager& permissions, UIState& state,
 }
 
 void PermissionToast::setShown(bool isShown) {
-    if (isShown == m_isShown) return;
-    m_isShown = isShown;
+    if (isShown == m_coming.isShown()) return;
     setAttribute(Qt::WA_TransparentForMouseEvents, !isShown);  // what is on its way out stands in nobody's way
     if (isShown) {
         place();

@@ -54,7 +54,6 @@ private:
     QGraphicsOpacityEffect* m_opacity;  // while it comes and goes
     DropShadow* m_shadow;
     QPoint m_corner;
-    bool m_isShown = false;
     Appearance m_coming;
 };
 

@@ -35,15 +35,10 @@ PromptCard::PromptCard(Symbol symbol, const Texts& texts, QWidget* box)
     m_heading->centreLines();
     m_text->setText(texts.text);
     m_text->centreLines();
+    resize(kWidth, layOut());
 }
 
-QSize PromptCard::sizeHint() const {
-    const int texts = m_heading->heightWithin(kContentWidth) + kHeadingToText + m_text->heightWithin(kContentWidth);
-    const int upper = kPadding + m_symbol.height + kSymbolToHeading + texts;
-    return {kWidth, upper + kTextToBox + m_box->height() + kBoxToButtons + kButtonHeight + kFootPadding};
-}
-
-void PromptCard::resizeEvent(QResizeEvent*) {
+int PromptCard::layOut() {
     int top = kPadding + m_symbol.height + kSymbolToHeading;
     const auto place = [&top](QWidget& widget, int height, int gapBelow) {
         widget.setGeometry(kPadding, top, kContentWidth, height);
@@ -55,6 +50,7 @@ void PromptCard::resizeEvent(QResizeEvent*) {
     constexpr int kButtonWidth = (kContentWidth - kButtonGap) / 2;
     m_first->setGeometry(kPadding, top, kButtonWidth, kButtonHeight);
     m_second->setGeometry(kPadding + kButtonWidth + kButtonGap, top, kButtonWidth, kButtonHeight);
+    return top + kButtonHeight + kFootPadding;
 }
 
 void PromptCard::paintEvent(QPaintEvent*) {

@@ -11,7 +11,7 @@ class PushButton;
 class TextBlock;
 class TextLine;
 
-/// Main thread. As high as its texts need.
+/// Main thread. As high as its texts need, from the beginning.
 class PromptCard final : public QWidget {
     Q_OBJECT
 
@@ -36,13 +36,13 @@ public:
     [[nodiscard]] PushButton& first() const { return *m_first; }
     [[nodiscard]] PushButton& second() const { return *m_second; }
 
-    [[nodiscard]] QSize sizeHint() const override;
-
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// Returns the height that it takes.
+    int layOut();
+
     Symbol m_symbol;
     TextBlock* m_heading;
     TextBlock* m_text;
