@@ -23,6 +23,10 @@ add_library(lumo_core STATIC
     keyboard/LightingEngine.cpp
     keyboard/SelectionText.cpp
     macro/MacroItem.cpp
+    remap/FactoryCode.cpp
+    remap/RemapActions.cpp
+    remap/RemapCatalog.cpp
+    remap/TargetText.cpp
     system/PermissionManager.cpp
 )
 target_include_directories(lumo_core PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})

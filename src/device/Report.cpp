@@ -12,11 +12,6 @@ void reportValueOutOfRange(const char* what, std::int64_t value) {
     std::abort();
 }
 
-std::uint8_t asByte(const char* what, std::int64_t value) {
-    if (value < 0 || value > 0xFF) reportValueOutOfRange(what, value);
-    return static_cast<std::uint8_t>(value);
-}
-
 ReportPatch& ReportPatch::setAt(std::size_t at, std::span<const std::uint8_t> bytes) {
     assert(at + bytes.size() <= m_report.size());
     std::ranges::copy(bytes, m_report.begin() + static_cast<std::ptrdiff_t>(at));

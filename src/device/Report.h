@@ -21,7 +21,10 @@ using Report = std::array<std::uint8_t, kReportSize>;
 [[noreturn]] void reportValueOutOfRange(const char* what, std::int64_t value);
 
 /// A level or number as its byte. Outside 0 to 255 is fatal.
-[[nodiscard]] std::uint8_t asByte(const char* what, std::int64_t value);
+[[nodiscard]] constexpr std::uint8_t asByte(const char* what, std::int64_t value) {
+    if (value < 0 || value > 0xFF) reportValueOutOfRange(what, value);
+    return static_cast<std::uint8_t>(value);
+}
 
 /// `count` bytes at `offset`, counted from the report id byte as on the wire.
 template <std::size_t offset, std::size_t count = 1>

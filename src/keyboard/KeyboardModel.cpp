@@ -36,6 +36,38 @@ void KeyboardModel::changeKeys(Change change) {
     keys.set(std::move(changed));
 }
 
+template <typename Change>
+bool KeyboardModel::changeKey(const std::string& id, Change change) {
+    auto changed = keys.get();
+    const auto key = std::ranges::find(changed, id, &KeyCap::id);
+    if (key == changed.end()) return false;
+    change(*key);
+    keys.set(std::move(changed));
+    return true;
+}
+
+const KeyCap* KeyboardModel::firstSelectedKey() const {
+    const auto& all = keys.get();
+    const auto key =
+        std::ranges::find_if(all, [&](const KeyCap& each) { return selectedKeyIds.get().contains(each.id); });
+    return key == all.end() ? nullptr : &*key;
+}
+
+void KeyboardModel::bindKey(const std::string& id, std::vector<std::uint8_t> code, std::string label) {
+    (void)changeKey(id, [&](KeyCap& key) {
+        key.remapBytes = std::move(code);
+        key.remapLabel = std::move(label);
+    });
+}
+
+void KeyboardModel::unbindKeys() {
+    changeKeys([](KeyCap& key) {
+        key.remapBytes.reset();
+        key.remapLabel.reset();
+        key.remapCode.reset();
+    });
+}
+
 void KeyboardModel::selectKey(const std::string& id, bool multiSelect) {
     if (!multiSelect) return selectedKeyIds.set({id});
     auto selected = selectedKeyIds.get();
@@ -45,12 +77,7 @@ void KeyboardModel::selectKey(const std::string& id, bool multiSelect) {
 
 void KeyboardModel::paintKey(const std::string& id, const Color& color) {
     currentColor.set(color);
-    auto changed = keys.get();
-    const auto key = std::ranges::find(changed, id, &KeyCap::id);
-    if (key == changed.end()) return;
-    key->customColor = color;
-    keys.set(std::move(changed));
-    syncToDevice();
+    if (changeKey(id, [&](KeyCap& key) { key.customColor = color; })) syncToDevice();
 }
 
 void KeyboardModel::applyColorToSelection(const std::optional<Color>& color) {

@@ -36,6 +36,15 @@ public:
     /// With `multiSelect` toggles the key, without it selects that key alone. Ids are not checked.
     void selectKey(const std::string& id, bool multiSelect);
 
+    /// The first of the selected keys in the order of the layout; null when no key has a selected id. Valid until the
+    /// keys change.
+    [[nodiscard]] const KeyCap* firstSelectedKey() const;
+
+    /// Notes what a key does from now on, or of all that they do what they did at first. Sends nothing. An id that no
+    /// key has changes nothing.
+    void bindKey(const std::string& id, std::vector<std::uint8_t> code, std::string label);
+    void unbindKeys();
+
     /// Colours one key and uploads. An id that no key has only changes `currentColor`.
     void paintKey(const std::string& id, const Color& color);
 
@@ -60,6 +69,9 @@ public:
 private:
     template <typename Change>
     void changeKeys(Change change);
+    /// False when no key has that id.
+    template <typename Change>
+    bool changeKey(const std::string& id, Change change);
 
     VexaProtocol& m_link;
 };

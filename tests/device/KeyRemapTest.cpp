@@ -154,6 +154,17 @@ TEST_F(KeyRemap, ATableThatWasReadIsNotReadAgain) {
     EXPECT_THAT(commandsSent(), ElementsAre(0x83, 0x03));
 }
 
+TEST_F(KeyRemap, TheKnownTableSurvivesUnpluggingAndPluggingIn) {
+    connect();
+    remap(5, {1, 2, 3, 4});
+    hid.unplugAll();
+    time.settle();
+    connect();
+    remap(6, {5, 6, 7, 8});
+    EXPECT_THAT(commandsSent(), ElementsAre(0x03));
+    EXPECT_EQ(codeAt(firmware.lastWrite(0x03), 28), (Bytes{1, 2, 3, 4}));
+}
+
 TEST_F(KeyRemap, OtherThanFourBytesAreIgnored) {
     connect();
     for (const Bytes& code : {Bytes{}, Bytes{1, 2, 3}, Bytes{1, 2, 3, 4, 5}}) remap(5, code);

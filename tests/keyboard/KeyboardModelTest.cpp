@@ -48,6 +48,33 @@ TEST_F(Keyboard, SelectingTwiceWithMultiSelectLeavesTheKeyUnselected) {
     EXPECT_THAT(keyboard().selectedKeyIds.get(), IsEmpty());
 }
 
+TEST_F(Keyboard, TheFirstSelectedKeyIsTheFirstInTheLayout) {
+    EXPECT_EQ(keyboard().firstSelectedKey(), nullptr);
+    keyboard().selectedKeyIds.set({"K10", "K2"});
+    ASSERT_NE(keyboard().firstSelectedKey(), nullptr);
+    EXPECT_EQ(keyboard().firstSelectedKey()->id, "K2");
+    keyboard().selectedKeyIds.set({"K99"});
+    EXPECT_EQ(keyboard().firstSelectedKey(), nullptr);
+}
+
+TEST_F(Keyboard, BindingAKeyAnnouncesOnceAndSendsNothing) {
+    connect();
+    int announced = 0;
+    const auto subscription = keyboard().observe([&] { ++announced; });
+    keyboard().bindKey("K31", {2, 0, 0, 0xE2}, "Mute");
+    EXPECT_EQ(announced, 1);
+    const KeyCap& key = keyboard().keys.get().at(30);
+    EXPECT_EQ(key.remapBytes, (std::vector<std::uint8_t>{2, 0, 0, 0xE2}));
+    EXPECT_EQ(key.remapLabel, "Mute");
+    keyboard().bindKey("K99", {2, 0, 0, 0xE2}, "Mute");
+    EXPECT_EQ(announced, 1);
+    keyboard().unbindKeys();
+    EXPECT_EQ(announced, 2);
+    EXPECT_EQ(keyboard().keys.get().at(30).remapBytes, std::nullopt);
+    time.settle();
+    EXPECT_THAT(commandsSent(), IsEmpty());
+}
+
 TEST_F(Keyboard, MultiSelectAddsToTheSelection) {
     keyboard().selectKey("K5", true);
     keyboard().selectKey("K6", true);
