@@ -29,6 +29,7 @@ add_library(lumo_ui STATIC
     controls/IconButton.cpp
     controls/InfoBox.cpp
     controls/Lettering.cpp
+    controls/ListRow.cpp
     controls/Motion.cpp
     controls/PacedColor.cpp
     controls/Panel.cpp
@@ -55,6 +56,7 @@ add_library(lumo_ui STATIC
     keyboard/CapLoops.cpp
     keyboard/ColorSwatch.cpp
     keyboard/DeviceGrid.cpp
+    keyboard/DrawnCap.cpp
     keyboard/EffectDot.cpp
     keyboard/EffectList.cpp
     keyboard/EffectRow.cpp
@@ -62,6 +64,7 @@ add_library(lumo_ui STATIC
     keyboard/GlowPass.cpp
     keyboard/GlowWeights.cpp
     keyboard/KeyLegend.cpp
+    keyboard/KeyMiniature.cpp
     keyboard/KeyMotion.cpp
     keyboard/KeyRing.cpp
     keyboard/KeyShade.cpp
@@ -84,6 +87,12 @@ add_library(lumo_ui STATIC
     platform/qt/QtRunLoop.cpp
     platform/qt/WindowSystem$<IF:$<BOOL:${APPLE}>,Mac,Xdg>.cpp
     platform/qt/WindowUpdates.cpp
+    remap/ActionGrid.cpp
+    remap/ActionPage.cpp
+    remap/CategoryList.cpp
+    remap/KeyRemapView.cpp
+    remap/RemapCard.cpp
+    remap/TargetPanel.cpp
     system/PermissionExplainerRow.cpp
     system/PermissionToast.cpp
     system/PromptCard.cpp

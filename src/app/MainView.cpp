@@ -17,6 +17,7 @@
 #include "foundation/ReferenceDate.h"
 #include "keyboard/KeyboardView.h"
 #include "keyboard/LightingControlView.h"
+#include "remap/KeyRemapView.h"
 #include "system/PermissionManager.h"
 #include "system/PermissionToast.h"
 #include "system/RecheckPopup.h"
@@ -44,9 +45,17 @@ QRect pageColumn(const QWidget& view) {
 
 /// Null for a page that does not exist yet.
 QWidget* makePage(NavTab tab) {
-    if (tab != NavTab::lighting) return nullptr;
-    return new LightingControlView(VexaProtocol::shared(), UIState::shared(), KeyboardModel::shared(), mainQueue(),
-                                   nullptr);
+    VexaProtocol& link = VexaProtocol::shared();
+    UIState& state = UIState::shared();
+    KeyboardModel& keyboard = KeyboardModel::shared();
+    switch (tab) {
+        case NavTab::keyAssign:
+            return new KeyRemapView(link, state, keyboard, mainQueue(), nullptr);
+        case NavTab::lighting:
+            return new LightingControlView(link, state, keyboard, mainQueue(), nullptr);
+        default:
+            return nullptr;
+    }
 }
 
 }  // namespace

@@ -16,6 +16,12 @@ constexpr QColor kNone{0, 0, 0, 0};
 constexpr ButtonSkin kAccentSkin{{theme::kAccent, theme::kAccentHover, theme::kAccentPressed},
                                  {theme::white(100), theme::white(100), {0xE3, 0xDA, 0xFB}},
                                  kNone};
+constexpr ButtonSkin kPlainSkin{{theme::kControl, theme::kControlHover, theme::kControlPressed},
+                                {theme::kTextButton, theme::white(100), theme::kTextRowPressed},
+                                theme::kControlLine};
+constexpr ButtonSkin kBoundSkin{{theme::kAccentSoft, theme::kAccentSoft, theme::kAccentSoft},
+                                {theme::white(100), theme::white(100), theme::white(100)},
+                                theme::kSelectedLine};
 constexpr ButtonSkin withLine(ButtonSkin skin, QColor line) {
     skin.line = line;
     return skin;
@@ -23,10 +29,7 @@ constexpr ButtonSkin withLine(ButtonSkin skin, QColor line) {
 
 }  // namespace
 
-constinit const ButtonLook kPlain{{{theme::kControl, theme::kControlHover, theme::kControlPressed},
-                                   {theme::kTextButton, theme::white(100), theme::kTextRowPressed},
-                                   theme::kControlLine},
-                                  {}};
+constinit const ButtonLook kPlain{kPlainSkin, {}};
 constinit const ButtonLook kPrimary{withLine(kAccentSkin, theme::kPrimaryLine), {}};
 constinit const ButtonLook kLayer{{{theme::white(7), theme::white(12), theme::whitePerMille(45)},
                                    {theme::kTextRow, theme::white(100), theme::kTextRowPressed},
@@ -36,6 +39,7 @@ constinit const ButtonLook kProfile{{{QColor(0x24, 0x24, 0x27), QColor(0x30, 0x3
                                      {theme::kTextProfile, QColor(0xD0, 0xD0, 0xD4), theme::kTextProfile},
                                      kNone},
                                     kAccentSkin};
+constinit const ButtonLook kAction{kPlainSkin, kBoundSkin, theme::kKeyButtonStyle};
 constinit const ButtonLook kPopupPrimary{
     withLine(kAccentSkin, theme::kPrimaryLine), {}, theme::kPopupButtonStyle, theme::kPopupButtonRadius};
 constinit const ButtonLook kPopupSecondary{

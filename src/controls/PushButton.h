@@ -40,6 +40,7 @@ extern const ButtonLook kPlain;
 extern const ButtonLook kPrimary;
 extern const ButtonLook kLayer;
 extern const ButtonLook kProfile;
+extern const ButtonLook kAction;
 extern const ButtonLook kPopupPrimary;
 extern const ButtonLook kPopupSecondary;
 

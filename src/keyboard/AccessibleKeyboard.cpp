@@ -96,6 +96,12 @@ int AccessibleKeyboard::indexOfChild(const QAccessibleInterface* wanted) const {
     return -1;
 }
 
+void tellOfName(KeyboardCanvas& canvas, std::size_t index) {
+    QAccessibleEvent event(&canvas, QAccessible::NameChanged);
+    event.setChild(static_cast<int>(index));
+    QAccessible::updateAccessibility(&event);
+}
+
 void tellOfSelection(KeyboardCanvas& canvas, std::size_t index) {
     QAccessibleEvent event(&canvas,
                            canvas.isKeySelected(index) ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);

@@ -28,6 +28,9 @@ private:
     std::vector<QAccessible::Id> m_keys;
 };
 
+/// That key is called something else now.
+void tellOfName(KeyboardCanvas& canvas, std::size_t index);
+
 /// The selection, or the focus, came to that key or left it.
 void tellOfSelection(KeyboardCanvas& canvas, std::size_t index);
 void tellOfFocus(KeyboardCanvas& canvas, std::size_t index);

@@ -1,5 +1,6 @@
 #include "keyboard/DeviceGrid.h"
 
+#include <QPainter>
 #include <algorithm>
 #include <cmath>
 
@@ -52,6 +53,14 @@ DevicePlace placeOnDevice(const QTransform& toDevice, const QPointF& origin) {
     const QPointF stepped(toStep(exact.x()), toStep(exact.y()));
     const QPoint corner(static_cast<int>(std::floor(stepped.x())), static_cast<int>(std::floor(stepped.y())));
     return {corner, {toDevice.m11(), stepped - corner}};
+}
+
+void paintPixels(QPainter& painter, const DevicePlace& place, const QImage& image, const QRect& part) {
+    const QTransform fromDevice = painter.deviceTransform().inverted();
+    painter.save();
+    painter.setWorldTransform(QTransform::fromTranslate(place.corner.x(), place.corner.y()) * fromDevice, true);
+    painter.drawImage(part.topLeft(), image, part);
+    painter.restore();
 }
 
 }  // namespace lumo

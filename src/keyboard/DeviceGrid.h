@@ -6,6 +6,9 @@
 #include <QSize>
 #include <QTransform>
 
+class QImage;
+class QPainter;
+
 namespace lumo {
 
 inline constexpr QSizeF kPictureSize{650.0, 247.0};  // points
@@ -46,5 +49,9 @@ struct DevicePlace {
 
 /// Turned or sheared devices do not exist for it.
 [[nodiscard]] DevicePlace placeOnDevice(const QTransform& toDevice, const QPointF& origin);
+
+/// Draws that part of an image of pixels at its place: pixel on pixel, whatever the device does to points on their way
+/// to it.
+void paintPixels(QPainter& painter, const DevicePlace& place, const QImage& image, const QRect& part);
 
 }  // namespace lumo

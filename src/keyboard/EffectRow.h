@@ -3,14 +3,14 @@
 
 #include <cstdint>
 
-#include "controls/PushControl.h"
+#include "controls/ListRow.h"
 #include "keyboard/EffectCatalog.h"
 #include "keyboard/EffectDot.h"
 
 namespace lumo {
 
 /// Main thread.
-class EffectRow final : public PushControl {
+class EffectRow final : public ListRow {
     Q_OBJECT
 
 public:
@@ -20,21 +20,10 @@ public:
     void setChosenColor(const QColor& color);
     [[nodiscard]] std::int64_t number() const { return m_number; }
 
-    /// The least width at which the name is not elided.
-    [[nodiscard]] QSize sizeHint() const override;
-
 protected:
-    [[nodiscard]] RingShape ringShape() const override;
-    [[nodiscard]] QString toolTipText() const override;
-    void paintEvent(QPaintEvent* event) override;
+    void paintMark(QPainter& painter) const override;
 
 private:
-    [[nodiscard]] QFont nameFont() const;
-    [[nodiscard]] QRectF nameRect() const;
-    [[nodiscard]] QString shownName() const;
-    void paintSurface(QPainter& painter) const;
-    void paintName(QPainter& painter) const;
-
     std::int64_t m_number;
     EffectColors m_colors;
     QColor m_chosen;

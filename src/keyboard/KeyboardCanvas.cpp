@@ -83,6 +83,7 @@ QAccessibleInterface* KeyboardCanvas::makeAccessible() { return new AccessibleKe
 void KeyboardCanvas::refresh() {
     m_frames.setWanted(LightingEngine::isMoving(m_link.activeModeId.get()));
     followSelection();
+    followBindings();
     followHover();
     composeFrame();
 }
@@ -93,6 +94,15 @@ void KeyboardCanvas::followSelection() {
     for (std::size_t i = 0; i < keys().size(); ++i) {
         m_isSelected[i] = selected.contains(keys()[i].id);
         if (!before.empty() && before[i] != m_isSelected[i]) tellOfSelection(*this, i);
+    }
+}
+
+void KeyboardCanvas::followBindings() {
+    std::vector<std::optional<std::string>> labels;
+    for (const KeyCap& key : keys()) labels.push_back(key.remapLabel);
+    const auto before = std::exchange(m_remapLabels, std::move(labels));
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        if (before[i] != m_remapLabels[i]) tellOfName(*this, i);
     }
 }
 

@@ -69,6 +69,7 @@ private:
     [[nodiscard]] KeyLook lookOf(std::size_t index, double time) const;
     void refresh();
     void followSelection();
+    void followBindings();
     void followHover();
     void composeFrame();
     void setPointed(const Key& key);
@@ -81,7 +82,8 @@ private:
     KeyboardActions m_actions;
     KeyboardPicture m_picture;
     KeyMotion m_motion;
-    std::vector<bool> m_isSelected;  // by index, kept for the frames
+    std::vector<bool> m_isSelected;                         // by index, kept for the frames
+    std::vector<std::optional<std::string>> m_remapLabels;  // by index, part of the names
     std::vector<KeyLook> m_looks;
     Key m_pointed;  // below the pointer
     Key m_pressed;

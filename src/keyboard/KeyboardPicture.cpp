@@ -75,16 +75,9 @@ void KeyboardPicture::makeLayers(const DeviceGrid& grid) {
 }
 
 void KeyboardPicture::paint(QPainter& painter, const QPointF& origin, const QRect& dirty) {
-    const QTransform toDevice = painter.deviceTransform();
-    const DevicePlace place = placeOnDevice(toDevice, origin);
+    const DevicePlace place = placeOnDevice(painter.deviceTransform(), origin);
     if (!m_layers || m_layers->grid() != place.grid) makeLayers(place.grid);
-    const QRect part = place.grid.pixelsAround(dirty);
-    painter.save();
-    // Pixel on pixel, whatever the device does to points on their way to it.
-    painter.setWorldTransform(QTransform::fromTranslate(place.corner.x(), place.corner.y()) * toDevice.inverted(),
-                              true);
-    painter.drawImage(part.topLeft(), m_layers->frame(), part);
-    painter.restore();
+    paintPixels(painter, place, m_layers->frame(), place.grid.pixelsAround(dirty));
 }
 
 }  // namespace lumo

@@ -5,7 +5,6 @@
 #include <cmath>
 
 #include "controls/Theme.h"
-#include "keyboard/KeyLegend.h"
 #include "keyboard/KeyboardCase.h"
 #include "keyboard/WideRegisters.h"
 
@@ -65,39 +64,20 @@ PictureLayers::PictureLayers(const DeviceGrid& grid, const std::vector<KeyCap>& 
       m_rings(keys.size()),
       m_isMarked(keys.size()),
       m_glow([&] {
-          for (const KeyCap& key : keys) m_caps.push_back(makeCap(key, {}));
+          for (const KeyCap& key : keys) m_caps.emplace_back(key, KeyTouch{}, m_grid, m_sprites);
           return makeGlow(picture);
       }()),
       m_frame(m_glow.ground()) {}
 
-PictureLayers::Cap PictureLayers::makeCap(const KeyCap& key, const KeyTouch& touch) {
-    const QRectF rect = m_grid.toPixels().mapRect(rectOf(key));
-    const QPoint corner = m_grid.pixelsAround(capBounds(rectOf(key))).topLeft();
-    const QRectF face = faceOf(rectOf(key), touch.press);
-    const auto drawn =
-        sprite(rect.translated(-corner), {isModifier(key), touch.hover, touch.press, legendRise(key, face)});
-    const KeyLegend legend = legendOf(key, face);
-    return {drawn, corner, LegendMask(legend.main, m_grid), LegendMask(legend.fn, m_grid)};
-}
-
-std::shared_ptr<const KeycapSprite> PictureLayers::sprite(const QRectF& inPixel, const KeycapLook& look) {
-    const auto draw = [&] { return std::make_shared<const KeycapSprite>(inPixel, m_grid.scale, look); };
-    if (look.hover > 0.0 || look.press > 0.0) return draw();
-    auto& known =
-        m_sprites[{inPixel.width(), inPixel.height(), look.isModifier, look.legendRise, inPixel.x(), inPixel.y()}];
-    if (!known) known = draw();
-    return known;
-}
-
 std::vector<CapCover> PictureLayers::covers() const {
     const BlockArea all = m_grid.blocks();
     std::vector<CapCover> covers(static_cast<std::size_t>(all.width() * all.height()), CapCover::none);
-    for (const Cap& cap : m_caps) {
+    for (const DrawnCap& cap : m_caps) {
         const QRect rect = cap.rect().intersected(all.pixels());
         for (int y = rect.top(); y <= rect.bottom(); ++y) {
-            const auto opaque = cap.sprite->opaque(y - cap.corner.y());
+            const auto opaque = cap.opaque(y - cap.rect().y());
             for (int x = rect.left() / kBlockPixels * kBlockPixels; x <= rect.right(); x += kBlockPixels) {
-                const int from = x - cap.corner.x();
+                const int from = x - cap.rect().x();
                 const bool isWhole = from >= opaque.first && from + kBlockPixels <= opaque.end;
                 CapCover& cover = *(covers.begin() + y * all.width() + x / kBlockPixels);
                 cover = std::max(cover, isWhole ? CapCover::whole : CapCover::partly);
@@ -113,7 +93,7 @@ GlowPass PictureLayers::makeGlow(const QImage& picture) const {
 
 void PictureLayers::setTouch(std::size_t key, const KeyTouch& touch) {
     m_touchedCaps[key].reset();
-    if (!isAtRest(touch)) m_touchedCaps[key] = makeCap(m_keys[key], touch);
+    if (!isAtRest(touch)) m_touchedCaps[key].emplace(m_keys[key], touch, m_grid, m_sprites);
     const RingLook ring{touch.isSelected, touch.isFocused, touch.hover};
     m_rings[key].reset();
     if (ring.isVisible()) m_rings[key].emplace(rectOf(m_keys[key]), ring, m_grid);
@@ -133,21 +113,13 @@ void PictureLayers::composeKey(std::size_t key, std::span<const KeyShade> shades
 
 void PictureLayers::compose(const BlockArea& area, std::span<const KeyShade> shades, GlowField& field) {
     pixels::clearWideRegisters();
-    m_glow.paint(FrameView(m_frame), area, field);
+    const FrameView frame(m_frame);
+    m_glow.paint(frame, area, field);
     for (std::size_t key = 0; key < m_caps.size(); ++key) {
-        paintCap(m_touchedCaps[key] ? *m_touchedCaps[key] : m_caps[key], area, shades[key]);
+        const DrawnCap& cap = m_touchedCaps[key] ? *m_touchedCaps[key] : m_caps[key];
+        cap.paint(frame, area, shades[key]);
     }
     paintRings(area);
-}
-
-void PictureLayers::paintCap(const Cap& cap, const BlockArea& area, const KeyShade& shade) {
-    const FrameView frame(m_frame);
-    const QRect shown = cap.rect().intersected(area.pixels()).intersected(m_frame.rect());
-    if (shown.isEmpty()) return;
-    const LegendColors colors = legendColors(shade);
-    cap.sprite->paint(frame.part(cap.corner, shown), shade);
-    cap.legend.paint(frame, area, colors.main);
-    cap.fnLegend.paint(frame, area, colors.fn);
 }
 
 void PictureLayers::paintRings(const BlockArea& area) {

@@ -1,0 +1,41 @@
+#include "remap/ActionGrid.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "controls/Columns.h"
+#include "controls/PushControl.h"
+
+namespace lumo {
+
+ActionGrid::ActionGrid(int across, int gap, QWidget* parent)
+    : QWidget(parent), m_across(across), m_gap(gap), m_group(new FocusGroup({.across = 1, .down = across}, this)) {}
+
+void ActionGrid::add(PushControl& control, Binding binding) {
+    const std::size_t index = m_actions.size();
+    connect(&control, &QAbstractButton::clicked, this, [this, index] { emit chosen(m_actions[index].binding); });
+    m_group->add(control);
+    m_actions.push_back({&control, std::move(binding)});
+}
+
+void ActionGrid::setBound(const std::optional<std::vector<std::uint8_t>>& code) {
+    for (const auto& [control, binding] : m_actions) {
+        control->setSelected(code && std::ranges::equal(*code, binding.bytes));
+    }
+    m_group->placeTabStop();
+}
+
+int ActionGrid::rows() const { return (static_cast<int>(m_actions.size()) + m_across - 1) / m_across; }
+
+void ActionGrid::resizeEvent(QResizeEvent*) {
+    const std::vector<Column> columns(static_cast<std::size_t>(m_across));
+    const auto extents = divide(width(), m_gap, columns);
+    const int rowHeight = (height() + m_gap) / rows() - m_gap;
+    for (int i = 0; i < static_cast<int>(m_actions.size()); ++i) {
+        const Extent& column = extents.at(static_cast<std::size_t>(i % m_across));
+        const int y = i / m_across * (rowHeight + m_gap);
+        m_actions.at(static_cast<std::size_t>(i)).control->setGeometry(column.begin, y, column.length, rowHeight);
+    }
+}
+
+}  // namespace lumo

@@ -1,0 +1,46 @@
+// Controls in equal columns, each of which binds one action.
+#pragma once
+
+#include <QWidget>
+#include <optional>
+#include <vector>
+
+#include "controls/FocusGroup.h"
+#include "remap/Binding.h"
+
+namespace lumo {
+
+class PushControl;
+
+/// Main thread. Filled row by row; the rows share the height.
+class ActionGrid final : public QWidget {
+    Q_OBJECT
+
+public:
+    ActionGrid(int across, int gap, QWidget* parent);
+
+    /// The control is a child of this grid.
+    void add(PushControl& control, Binding binding);
+    /// Marks the action of that code.
+    void setBound(const std::optional<std::vector<std::uint8_t>>& code);
+    [[nodiscard]] int rows() const;
+
+signals:
+    void chosen(const lumo::Binding& binding);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    struct Action {
+        PushControl* control = nullptr;
+        Binding binding;
+    };
+
+    int m_across;
+    int m_gap;
+    FocusGroup* m_group;
+    std::vector<Action> m_actions;
+};
+
+}  // namespace lumo
