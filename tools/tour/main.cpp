@@ -10,6 +10,7 @@
 #include "Hand.h"
 #include "LightingTour.h"
 #include "PromptTour.h"
+#include "RemapTour.h"
 #include "Tour.h"
 #include "app/Program.h"
 #include "demo/DemoPlatform.h"
@@ -59,6 +60,7 @@ struct Guide {
         } else {
             lumo::tour::addWelcome(tour, hand);
             lumo::tour::addLightingPage(tour, hand, window);
+            lumo::tour::addRemapPage(tour, hand, window);
         }
         tour.begin();
     }
