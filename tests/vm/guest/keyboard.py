@@ -30,9 +30,9 @@ class Keyboard:
         self.tell("unplug")
 
     def registers(self):
-        """The parameter block and the colour block as the keyboard holds them."""
+        """Parameter block, colour block and key table as the keyboard holds them."""
         words = self.tell("registers").split()
-        return {words[0]: bytes.fromhex(words[1]), words[2]: bytes.fromhex(words[3])}
+        return {name: bytes.fromhex(held) for name, held in zip(words[::2], words[1::2])}
 
     def transfers(self):
         """Every transfer so far, oldest first; a line still being written is not among them."""

@@ -39,6 +39,13 @@ class Window:
         key = next((key for key in self._keys() if key.name == label), None)
         return key is not None and elements.press(self._bus, key)
 
+    def press_tab(self, name):
+        return self._press("page tab", name)
+
+    def has_key(self, name):
+        """True when a key of the picture is called so."""
+        return any(key.name == name for key in self._keys())
+
     def selected_keys(self):
         return [key.name for key in self._keys() if key.is_chosen]
 

@@ -98,7 +98,8 @@ std::string ControlLoop::addFault(std::string_view text) {
 
 std::string ControlLoop::registers() {
     FirmwareModel& model = m_firmware.model();
-    return "ok parameters " + hexOf(model.parameterBlock()) + " colours " + hexOf(model.colourBlock());
+    return "ok parameters " + hexOf(model.parameterBlock()) + " colours " + hexOf(model.colourBlock()) + " keys " +
+           hexOf(model.keyTable());
 }
 
 }  // namespace lumo::vk
