@@ -6,6 +6,7 @@ add_library(lumo_core STATIC
     device/KeyTableReports.cpp
     device/LightingCommands.cpp
     device/LightingReports.cpp
+    device/MacroCompiler.cpp
     device/PerKeyCommands.cpp
     device/PerKeyReports.cpp
     device/Report.cpp
@@ -22,6 +23,8 @@ add_library(lumo_core STATIC
     keyboard/LightingActions.cpp
     keyboard/LightingEngine.cpp
     keyboard/SelectionText.cpp
+    macro/BytecodeText.cpp
+    macro/MacroActions.cpp
     macro/MacroItem.cpp
     remap/FactoryCode.cpp
     remap/RemapActions.cpp

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,10 +15,12 @@
 #include "device/HeldDevice.h"
 #include "device/KeyTableReports.h"
 #include "device/LightingModes.h"
+#include "device/MacroImage.h"
 #include "device/PerKeyColors.h"
 #include "foundation/Color.h"
 #include "foundation/Observable.h"
 #include "foundation/RunLoop.h"
+#include "macro/MacroEvent.h"
 #include "platform/Hid.h"
 
 namespace lumo {
@@ -87,6 +90,9 @@ public:
 
     /// Writes a whole table under our own header; shorter than 520 bytes, it is filled up with zeros.
     void setKeyRemapTable(std::vector<std::uint8_t> keyMatrixData);
+
+    /// Any thread. The steps as the firmware keeps a macro; those that find no room are left out. Sends nothing.
+    [[nodiscard]] static MacroImage compileMacro(std::span<const MacroEvent> events);
 
 private:
     void deviceMatched(const std::shared_ptr<HidDevice>& device);

@@ -4,6 +4,9 @@
 #include <array>
 #include <compare>
 #include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace lumo {
 
@@ -15,6 +18,11 @@ struct Uuid {
 
     /// A fresh random one (version 4).
     [[nodiscard]] static Uuid random();
+
+    /// 8-4-4-4-12 hexadecimal digits, in capitals.
+    [[nodiscard]] std::string text() const;
+    /// The way back, also from small letters; none for anything else.
+    [[nodiscard]] static std::optional<Uuid> fromText(std::string_view text);
 };
 
 }  // namespace lumo

@@ -4,27 +4,16 @@
 
 #include <set>
 
+#include "macro/Steps.h"
 #include "support/LinkFixture.h"
 
 namespace lumo {
 namespace {
 
+using test::Step;
+using test::stepsOf;
+using testing::ElementsAre;
 using testing::IsEmpty;
-
-struct Step {
-    int keyCode;
-    bool isDown;
-    int delayMs;
-};
-
-void expectSteps(const std::vector<MacroEvent>& events, const std::vector<Step>& steps) {
-    ASSERT_EQ(events.size(), steps.size());
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-        EXPECT_EQ(events[i].keyCode, steps[i].keyCode) << i;
-        EXPECT_EQ(events[i].isDown, steps[i].isDown) << i;
-        EXPECT_EQ(events[i].delayMs, steps[i].delayMs) << i;
-    }
-}
 
 TEST(UIState, AFreshLaunchShowsTheLightingPageWithItsDefaults) {
     const UIState state;
@@ -50,8 +39,9 @@ TEST(UIState, TheMacroEditorStartsWithItsOwnSixSteps) {
     const UIState state;
     EXPECT_EQ(state.selectedMacroIndex.get(), 0);
     EXPECT_EQ(state.macroName.get(), "Rapid WASD");
-    expectSteps(state.macroEvents.get(),
-                {{87, true, 25}, {87, false, 25}, {83, true, 30}, {83, false, 30}, {65, true, 20}, {65, false, 20}});
+    EXPECT_THAT(stepsOf(state.macroEvents.get()),
+                ElementsAre(Step{87, true, 25}, Step{87, false, 25}, Step{83, true, 30}, Step{83, false, 30},
+                            Step{65, true, 20}, Step{65, false, 20}));
     EXPECT_FALSE(state.isRecording.get());
     EXPECT_EQ(state.macroLoopMode.get(), 0);
     EXPECT_EQ(state.macroLoopCount.get(), 3);
@@ -63,11 +53,13 @@ TEST(UIState, HoldsTheThreeSampleMacros) {
     const auto& macros = state.macroList.get();
     ASSERT_EQ(macros.size(), 3U);
     EXPECT_EQ(macros[0].name, "Rapid WASD");
-    expectSteps(macros[0].events, {{87, true, 25}, {87, false, 25}, {83, true, 25}, {83, false, 25}});
+    EXPECT_THAT(stepsOf(macros[0].events),
+                ElementsAre(Step{87, true, 25}, Step{87, false, 25}, Step{83, true, 25}, Step{83, false, 25}));
     EXPECT_EQ(macros[1].name, "Super Jump");
-    expectSteps(macros[1].events, {{17, true, 10}, {32, true, 40}, {32, false, 10}, {17, false, 10}});
+    EXPECT_THAT(stepsOf(macros[1].events),
+                ElementsAre(Step{17, true, 10}, Step{32, true, 40}, Step{32, false, 10}, Step{17, false, 10}));
     EXPECT_EQ(macros[2].name, "Rapid Fire");
-    expectSteps(macros[2].events, {{240, true, 15}, {240, false, 15}});
+    EXPECT_THAT(stepsOf(macros[2].events), ElementsAre(Step{240, true, 15}, Step{240, false, 15}));
 }
 
 TEST(UIState, EveryMacroAndStepHasAnIdentityOfItsOwn) {
