@@ -26,6 +26,7 @@ add_library(lumo_ui STATIC
     controls/Fade.cpp
     controls/FocusGroup.cpp
     controls/FocusRing.cpp
+    controls/HeadedCard.cpp
     controls/IconButton.cpp
     controls/InfoBox.cpp
     controls/Lettering.cpp
@@ -33,12 +34,14 @@ add_library(lumo_ui STATIC
     controls/Motion.cpp
     controls/PacedColor.cpp
     controls/Panel.cpp
+    controls/Picture.cpp
     controls/PlainText.cpp
     controls/Popup.cpp
     controls/PopupMenu.cpp
     controls/PushButton.cpp
     controls/PushControl.cpp
     controls/ScrollBar.cpp
+    controls/ScrollBox.cpp
     controls/ScrollHint.cpp
     controls/Section.cpp
     controls/Slider.cpp
@@ -82,6 +85,18 @@ add_library(lumo_ui STATIC
     keyboard/PaletteCard.cpp
     keyboard/PictureLayers.cpp
     keyboard/WideRegisters.cpp
+    macro/AccessibleSteps.cpp
+    macro/BytecodeCard.cpp
+    macro/BytecodeView.cpp
+    macro/LoopModesCard.cpp
+    macro/LoopRadio.cpp
+    macro/MacroEditorView.cpp
+    macro/ProfileList.cpp
+    macro/ProfilesCard.cpp
+    macro/StepList.cpp
+    macro/StepRow.cpp
+    macro/TimelineCard.cpp
+    macro/TimelineHeading.cpp
     platform/qt/FrameClock.cpp
     platform/qt/NativePlatform.cpp
     platform/qt/QtRunLoop.cpp

@@ -17,6 +17,7 @@
 #include "foundation/ReferenceDate.h"
 #include "keyboard/KeyboardView.h"
 #include "keyboard/LightingControlView.h"
+#include "macro/MacroEditorView.h"
 #include "remap/KeyRemapView.h"
 #include "system/PermissionManager.h"
 #include "system/PermissionToast.h"
@@ -53,6 +54,8 @@ QWidget* makePage(NavTab tab) {
             return new KeyRemapView(link, state, keyboard, mainQueue(), nullptr);
         case NavTab::lighting:
             return new LightingControlView(link, state, keyboard, mainQueue(), nullptr);
+        case NavTab::macro:
+            return new MacroEditorView(link, state, mainQueue(), nullptr);
         default:
             return nullptr;
     }

@@ -1,17 +1,16 @@
 // The part of the window that shows one page.
 #pragma once
 
-#include <QScrollArea>
+#include "controls/ScrollBox.h"
 
 namespace lumo {
 
 class PageVeil;
-class ScrollBar;
 class ScrollHint;
 
 /// Main thread. A page fills the area, and fades in when it takes the place of another. Where the area is lower than
-/// the page's smallest height, the page scrolls as a whole, also to the control that the keyboard comes to.
-class PageArea final : public QScrollArea {
+/// the page's smallest height, the page scrolls as a whole.
+class PageArea final : public ScrollBox {
     Q_OBJECT
 
 public:
@@ -19,18 +18,13 @@ public:
 
     /// Owns the page; the one before it goes. Null leaves the area empty.
     void setPage(QWidget* page);
-    /// In the parent's coordinates: the page's place, and as much on its right as holds the scroll bar.
-    void place(const QRect& page, int rightEdge);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void showFocused(QWidget* focused);
-
     PageVeil* m_veil;
     ScrollHint* m_hint;
-    ScrollBar* m_bar;
 };
 
 }  // namespace lumo

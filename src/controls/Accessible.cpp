@@ -29,6 +29,15 @@ QStringList AccessibleButton::keyBindingsForAction(const QString& actionName) co
     return {QKeySequence(Qt::Key_Space).toString(QKeySequence::NativeText)};
 }
 
+QVector<std::pair<QAccessibleInterface*, QAccessible::Relation>> AccessibleGroup::relations(
+    QAccessible::Relation match) const {
+    auto found = QAccessibleWidget::relations(match);
+    if (match & QAccessible::Label) {
+        found.append({QAccessible::queryAccessibleInterface(&m_heading), QAccessible::Label});
+    }
+    return found;
+}
+
 void announce([[maybe_unused]] QWidget& source, [[maybe_unused]] const QString& text) {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     QAccessibleAnnouncementEvent event(&source, text);

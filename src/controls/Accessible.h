@@ -28,6 +28,19 @@ public:
     [[nodiscard]] QStringList keyBindingsForAction(const QString& actionName) const override;
 };
 
+/// A group that one of its children labels: its heading.
+class AccessibleGroup final : public QAccessibleWidget {
+public:
+    AccessibleGroup(QWidget& group, QWidget& heading)
+        : QAccessibleWidget(&group, QAccessible::Grouping), m_heading(heading) {}
+
+    [[nodiscard]] QVector<std::pair<QAccessibleInterface*, QAccessible::Relation>> relations(
+        QAccessible::Relation match) const override;
+
+private:
+    QWidget& m_heading;
+};
+
 /// Speaks the text where the system can speak what does not have the focus. Main thread.
 void announce(QWidget& source, const QString& text);
 

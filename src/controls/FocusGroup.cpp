@@ -20,7 +20,14 @@ void FocusGroup::add(PushControl& control) {
     placeTabStop();
 }
 
+void FocusGroup::remove(PushControl& control) {
+    std::erase(m_controls, &control);
+    control.removeEventFilter(this);
+    placeTabStop();
+}
+
 void FocusGroup::placeTabStop() {
+    if (m_controls.empty()) return;
     const PushControl* const stop = tabStop();
     for (PushControl* const control : m_controls) {
         control->setFocusPolicy(control == stop ? Qt::StrongFocus : Qt::ClickFocus);

@@ -9,7 +9,8 @@ namespace lumo {
 class PushControl;
 
 /// Main thread. The stop is the control that has the focus, else the selected one, else the first. Arrow keys, Home
-/// and End move the focus and choose nothing. Lives as long as its controls, whose common parent owns both.
+/// and End move the focus and choose nothing. The controls' common parent owns both; a control that goes
+/// before the group is removed first.
 class FocusGroup final : public QObject {
     Q_OBJECT
 
@@ -23,6 +24,7 @@ public:
     FocusGroup(Steps steps, QWidget* parent);
 
     void add(PushControl& control);
+    void remove(PushControl& control);
     void setSteps(Steps steps) { m_steps = steps; }
 
     /// To be called when another control is selected.

@@ -14,8 +14,14 @@ namespace {
 constexpr double kGap = 2.0;
 constexpr double kWidth = 2.0;
 
+QEvent::Type ringMoved() {
+    static const auto kType = static_cast<QEvent::Type>(QEvent::registerEventType());
+    return kType;
+}
+
 /// What may move the control, or change whether it wears the ring.
 bool concernsRing(QEvent::Type type) {
+    if (type == ringMoved()) return true;
     switch (type) {
         case QEvent::Move:
         case QEvent::Resize:
@@ -49,6 +55,11 @@ QRect visiblePart(const QWidget& view, const QWidget& control) {
 RingShape RingWearer::ringAround(const QRectF& control, double radius) {
     constexpr double kOut = kGap + kWidth;
     return {control.adjusted(-kOut, -kOut, kOut, kOut), radius + kOut};
+}
+
+void RingWearer::tellOfRing(QWidget& wearer) {
+    QEvent moved(ringMoved());
+    QCoreApplication::sendEvent(&wearer, &moved);
 }
 
 FocusRing::FocusRing(QWidget& view) : QWidget(&view) {

@@ -26,6 +26,8 @@ public:
 protected:
     /// 2 points away from a control of that shape.
     [[nodiscard]] static RingShape ringAround(const QRectF& control, double radius);
+    /// For a ring that moves while the widget that wears it stays.
+    static void tellOfRing(QWidget& wearer);
 };
 
 /// Main thread. Child of the view it lies over, which it follows through every change of the focus. The ring is brought

@@ -1,19 +1,27 @@
 // A button that shows a symbol and says in words what it does.
 #pragma once
 
-#include "controls/PushControl.h"
+#include "controls/PushButton.h"
 
 namespace lumo {
 
-/// Main thread. Without a surface of its own until the pointer is over it.
+namespace look {
+
+extern const ButtonSkin kGhost;  // has no surface until the pointer is over it
+
+}  // namespace look
+
+/// Main thread.
 class IconButton final : public PushControl {
     Q_OBJECT
 
 public:
     static constexpr int kSize = 28;
 
-    /// `name` is what assistive technology reads and hover help shows; the symbol's frame has that many points.
-    IconButton(const QString& name, QString symbol, double symbolSize, QWidget* parent);
+    /// `name` is what assistive technology reads and hover help shows; the symbol's frame has that many points. The
+    /// skin outlives the button.
+    IconButton(const QString& name, QString symbol, double symbolSize, QWidget* parent,
+               const ButtonSkin& skin = look::kGhost);
 
 protected:
     [[nodiscard]] RingShape ringShape() const override;
@@ -21,6 +29,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    const ButtonSkin& m_skin;
     QString m_symbol;
     double m_symbolSize;
 };

@@ -115,7 +115,9 @@ void atBaseline(QPainter& painter, const QRectF& rect, const QFont& font, double
 }  // namespace
 
 Lettering::Lettering(const theme::TextStyle& style)
-    : m_scale(isWhole(style.sizePx) ? 1.0 : kFractionScale), m_isTabular(style.isTabular) {
+    : m_scale(isWhole(style.sizePx) ? 1.0 : kFractionScale),
+      m_isTabular(style.isTabular),
+      m_isMonospaced(style.isMonospaced) {
     m_font = theme::font(scaledUp(style, m_scale));
 }
 
@@ -123,8 +125,10 @@ double Lettering::advanceOf(QChar letter) const {
     return QFontMetricsF(m_font).horizontalAdvance(letter.isDigit() ? QChar('0') : letter);
 }
 
+QString Lettering::set(const QString& text) const { return m_isMonospaced ? text : typeset(text); }
+
 double Lettering::widthOf(const QString& text) const {
-    if (!m_isTabular) return QFontMetricsF(m_font).horizontalAdvance(typeset(text)) * m_scale;
+    if (!m_isTabular) return QFontMetricsF(m_font).horizontalAdvance(set(text)) * m_scale;
     double width = 0.0;
     for (const QChar letter : text) width += advanceOf(letter);
     return width * m_scale;
@@ -132,12 +136,12 @@ double Lettering::widthOf(const QString& text) const {
 
 QString Lettering::elided(const QString& text, double width) const {
     if (m_isTabular && widthOf(text) <= width) return text;
-    return QFontMetricsF(m_font).elidedText(typeset(text), Qt::ElideRight, width / m_scale);
+    return QFontMetricsF(m_font).elidedText(set(text), Qt::ElideRight, width / m_scale);
 }
 
 void Lettering::paint(QPainter& painter, const QRectF& rect, const QString& text) const {
     atBaseline(painter, rect, m_font, m_scale, [&] {
-        if (!m_isTabular) return drawLetters(painter, {}, typeset(text));
+        if (!m_isTabular) return drawLetters(painter, {}, set(text));
         double x = 0.0;
         for (const QChar letter : text) {
             const double spare = advanceOf(letter) - QFontMetricsF(m_font).horizontalAdvance(letter);
@@ -151,7 +155,7 @@ QList<QTextLayout::FormatRange> Lettering::formats(const QString& text) const { 
 
 QPainterPath Lettering::outlines(const QString& text) const {
     QPainterPath path;
-    path.addText({}, m_font, typeset(text));
+    path.addText({}, m_font, set(text));
     return QTransform::fromScale(m_scale, m_scale).map(path);
 }
 

@@ -34,10 +34,12 @@ public:
 
 private:
     [[nodiscard]] double advanceOf(QChar letter) const;
+    [[nodiscard]] QString set(const QString& text) const;
 
     QFont m_font;
     double m_scale;  // from the font's size to the style's
     bool m_isTabular;
+    bool m_isMonospaced;  // such fonts form no other signs
 };
 
 /// As the letters are set: some fonts turn the x of a hexadecimal number into a sign of multiplication.

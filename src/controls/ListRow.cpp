@@ -5,27 +5,29 @@
 #include "controls/Panel.h"
 
 namespace lumo {
-namespace {
-
-constexpr int kPadding = 9;  // on the right
-
-}  // namespace
 
 ListRow::ListRow(const QString& name, QAccessible::Role role, const Looks& looks, QWidget* parent)
     : PushControl(name, role, parent),
       m_nameX(looks.nameX),
+      m_padding(looks.padding),
       m_lettering(looks.style),
       m_selectedLettering(looks.selectedStyle) {}
 
+void ListRow::setName(const QString& name) {
+    if (name == text()) return;
+    setText(name);
+    setAccessibleName(name);
+}
+
 QSize ListRow::sizeHint() const {
-    return {m_nameX + static_cast<int>(std::ceil(m_selectedLettering.widthOf(text()))) + kPadding, height()};
+    return {m_nameX + static_cast<int>(std::ceil(m_selectedLettering.widthOf(text()))) + m_padding, height()};
 }
 
 RingShape ListRow::ringShape() const { return {rect(), theme::kRowRadius}; }
 
 QString ListRow::toolTipText() const { return shownName() == typeset(text()) ? QString() : text(); }
 
-QRectF ListRow::nameRect() const { return QRectF(rect()).adjusted(m_nameX, 0, -kPadding, 0); }
+QRectF ListRow::nameRect() const { return QRectF(rect()).adjusted(m_nameX, 0, -m_padding, 0); }
 
 QString ListRow::shownName() const { return lettering().elided(text(), nameRect().width()); }
 

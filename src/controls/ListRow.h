@@ -7,17 +7,21 @@
 
 namespace lumo {
 
-/// Main thread. The name is elided on the right where it does not fit.
+/// Main thread. The name is elided on the right where it does not fit, and then told as hover help.
 class ListRow : public PushControl {
     Q_OBJECT
 
 public:
     struct Looks {
-        int nameX = 0;  // where the name begins
+        int nameX = 0;    // where the name begins
+        int padding = 9;  // on the right of it
         theme::TextStyle style = theme::kRowStyle;
         theme::TextStyle selectedStyle = theme::kRowSelectedStyle;
     };
     ListRow(const QString& name, QAccessible::Role role, const Looks& looks, QWidget* parent);
+
+    /// For a name that changes.
+    void setName(const QString& name);
 
     /// The least width at which the name is not elided.
     [[nodiscard]] QSize sizeHint() const final;
@@ -38,6 +42,7 @@ private:
     void paintName(QPainter& painter) const;
 
     int m_nameX;
+    int m_padding;
     Lettering m_lettering;
     Lettering m_selectedLettering;
 };

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "controls/Panel.h"
+#include "controls/Picture.h"
 #include "controls/Symbol.h"
 #include "controls/TextLine.h"
 #include "controls/Theme.h"
@@ -27,9 +28,18 @@ constexpr ButtonSkin withLine(ButtonSkin skin, QColor line) {
     return skin;
 }
 
+constexpr ButtonSkin kGreySkin{
+    kPlainSkin.fill, {QColor(0xB0, 0xB0, 0xB5), theme::white(100), theme::kTextRowPressed}, theme::kControlLine};
+constexpr ButtonSkin kRecordingSkin{
+    {QColor(0xFF, 0x5C, 0x52, 31), QColor(0xFF, 0x5C, 0x52, 46), QColor(0xFF, 0x5C, 0x52, 15)},
+    {QColor(0xFF, 0x8A, 0x80), QColor(0xFF, 0xA9, 0xA2), QColor(0xE0, 0x7F, 0x78)},
+    {0xFF, 0x6B, 0x61, 115}};
+
 }  // namespace
 
 constinit const ButtonLook kPlain{kPlainSkin, {}};
+constinit const ButtonLook kSmall{kPlainSkin, {}, theme::kSmallButtonStyle, theme::kSmallRadius};
+constinit const ButtonLook kRecord{kGreySkin, kRecordingSkin};
 constinit const ButtonLook kPrimary{withLine(kAccentSkin, theme::kPrimaryLine), {}};
 constinit const ButtonLook kLayer{{{theme::white(7), theme::white(12), theme::whitePerMille(45)},
                                    {theme::kTextRow, theme::white(100), theme::kTextRowPressed},
@@ -54,7 +64,6 @@ constinit const ButtonLook kPopupSecondary{
 
 namespace {
 
-constexpr double kSymbolSize = 16.0;
 constexpr double kSymbolGap = 6.0;
 constexpr double kLeastPadding = 6.0;
 
@@ -63,8 +72,14 @@ constexpr double kLeastPadding = 6.0;
 PushButton::PushButton(const QString& text, const ButtonLook& look, QWidget* parent, QAccessible::Role role)
     : PushControl(text, role, parent), m_look(look), m_lettering(look.type) {}
 
-void PushButton::setSymbol(const QString& name) {
+void PushButton::setSymbol(const QString& name, double size) {
     m_symbol = name;
+    m_symbolSize = size;
+    update();
+}
+
+void PushButton::setPicture(const QImage& picture) {
+    m_picture = picture;
     update();
 }
 
@@ -82,7 +97,9 @@ RingShape PushButton::ringShape() const { return ringAround(rect(), m_look.radiu
 
 QString PushButton::toolTipText() const { return typeset(shownText()) == typeset(text()) ? QString() : text(); }
 
-double PushButton::symbolRoom() const { return m_symbol.isEmpty() ? 0.0 : kSymbolSize + kSymbolGap; }
+double PushButton::symbolRoom() const {
+    return m_symbol.isEmpty() && m_picture.isNull() ? 0.0 : m_symbolSize + kSymbolGap;
+}
 
 QString PushButton::shownText() const {
     return m_lettering.elided(text(), width() - symbolRoom() - 2.0 * kLeastPadding);
@@ -102,14 +119,16 @@ void PushButton::paintEvent(QPaintEvent*) {
     paintLabel(painter);
 }
 
+void PushButton::paintMark(QPainter& painter, const QRectF& frame) const {
+    if (!m_symbol.isEmpty()) return paintSymbol(painter, frame, m_symbol, painter.pen().color());
+    paintPicture(painter, frame, m_picture);
+}
+
 void PushButton::paintLabel(QPainter& painter) const {
     const QString shown = shownText();
     const double left = (width() - symbolRoom() - m_lettering.widthOf(shown)) / 2.0;
     const QRectF all = rect();
-    if (!m_symbol.isEmpty()) {
-        const QRectF frame(left, all.center().y() - kSymbolSize / 2.0, kSymbolSize, kSymbolSize);
-        paintSymbol(painter, frame, m_symbol, painter.pen().color());
-    }
+    paintMark(painter, QRectF(left, all.center().y() - m_symbolSize / 2.0, m_symbolSize, m_symbolSize));
     m_lettering.paint(painter, all.adjusted(left + symbolRoom(), 0, 0, 0), shown);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 
 #include "controls/Lettering.h"
 #include "controls/PushControl.h"
@@ -37,6 +38,8 @@ struct ButtonLook {
 namespace look {
 
 extern const ButtonLook kPlain;
+extern const ButtonLook kSmall;
+extern const ButtonLook kRecord;  // selected while it records
 extern const ButtonLook kPrimary;
 extern const ButtonLook kLayer;
 extern const ButtonLook kProfile;
@@ -55,8 +58,10 @@ public:
     PushButton(const QString& text, const ButtonLook& look, QWidget* parent,
                QAccessible::Role role = QAccessible::PushButton);
 
-    /// In the text's colour, 16 points wide.
-    void setSymbol(const QString& name);
+    /// In the text's colour, in a frame of that many points.
+    void setSymbol(const QString& name, double size = kSymbolSize);
+    /// In its own colours, in the place of a symbol of the usual size; null for none.
+    void setPicture(const QImage& picture);
     /// For a text that changes; it is the name, too.
     void setLabel(const QString& text);
 
@@ -69,7 +74,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    static constexpr double kSymbolSize = 16.0;
+
     [[nodiscard]] double symbolRoom() const;
+    void paintMark(QPainter& painter, const QRectF& frame) const;
     [[nodiscard]] QString shownText() const;
     [[nodiscard]] QColor blended(const PressColors& plain, const PressColors& selected) const;
     void paintLabel(QPainter& painter) const;
@@ -77,6 +85,8 @@ private:
     const ButtonLook& m_look;
     Lettering m_lettering;
     QString m_symbol;
+    double m_symbolSize = kSymbolSize;
+    QImage m_picture;
 };
 
 }  // namespace lumo

@@ -10,25 +10,6 @@ namespace {
 
 constexpr int kContentTop = Section::kHeadingHeight + theme::kHeadingToContent;
 
-/// A group that its heading labels.
-class AccessibleSection final : public QAccessibleWidget {
-public:
-    AccessibleSection(Section& section, TextLine& heading)
-        : QAccessibleWidget(&section, QAccessible::Grouping), m_heading(heading) {}
-
-    [[nodiscard]] QVector<std::pair<QAccessibleInterface*, QAccessible::Relation>> relations(
-        QAccessible::Relation match) const override {
-        auto found = QAccessibleWidget::relations(match);
-        if (match & QAccessible::Label) {
-            found.append({QAccessible::queryAccessibleInterface(&m_heading), QAccessible::Label});
-        }
-        return found;
-    }
-
-private:
-    TextLine& m_heading;
-};
-
 }  // namespace
 
 Section::Section(std::string_view heading, const theme::TextStyle& style, int margin, QWidget* parent)
@@ -48,7 +29,7 @@ void Section::setContent(QWidget* content) {
     setMinimumHeight(kContentTop + content->minimumHeight());
 }
 
-QAccessibleInterface* Section::makeAccessible() { return new AccessibleSection(*this, *m_heading); }
+QAccessibleInterface* Section::makeAccessible() { return new AccessibleGroup(*this, *m_heading); }
 
 void Section::resizeEvent(QResizeEvent*) {
     const int headingWidth = std::min(width() - 2 * m_margin, m_heading->sizeHint().width());

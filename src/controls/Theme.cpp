@@ -18,6 +18,11 @@ QStringList interfaceFamilies() {
 #endif
 }
 
+QStringList monospacedFamilies() {
+    return QStringList{"SF Mono", "Menlo", "DejaVu Sans Mono"} +
+           QFontDatabase::systemFont(QFontDatabase::FixedFont).families();
+}
+
 QPalette darkPalette() {
     QPalette palette(kText, kPopupControl, kPopupControl.lighter(), kBar, kCard, kText, Qt::white, kWindow, kWindow);
     palette.setColor(QPalette::Highlight, kAccent);
@@ -31,7 +36,7 @@ QPalette darkPalette() {
 
 QFont font(const TextStyle& style) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    font.setFamilies(interfaceFamilies());
+    font.setFamilies(style.isMonospaced ? monospacedFamilies() : interfaceFamilies());
     font.setPixelSize(static_cast<int>(style.sizePx));
     font.setWeight(style.weight);
     font.setItalic(false);

@@ -33,6 +33,7 @@ inline constexpr QColor kTilePressed{0x24, 0x24, 0x27};
 inline constexpr QColor kInset{0x15, 0x15, 0x17};
 inline constexpr QColor kRowHover = white(6);
 inline constexpr QColor kRowPressed = white(3);
+inline constexpr QColor kStepHover = white(5);
 
 // Lines, 1 point wide
 inline constexpr QColor kCardLine = white(6);
@@ -43,6 +44,8 @@ inline constexpr QColor kTileLine = white(6);
 inline constexpr QColor kTileLineHover = white(13);
 inline constexpr QColor kPrimaryLine = white(14);
 inline constexpr QColor kToolsLine = white(7);
+inline constexpr QColor kRowLine = white(5);
+inline constexpr QColor kTimelineLine = white(6);
 inline constexpr QColor kHeaderSeparator = white(9);
 inline constexpr QColor kStatusSeparator = white(12);
 inline constexpr QColor kPopupLine = white(10);
@@ -56,6 +59,7 @@ inline constexpr QColor kAccentHover{0x68, 0x1C, 0xE6};
 inline constexpr QColor kAccentPressed{0x47, 0x06, 0xAE};
 inline constexpr QColor kAccentLine{0x8B, 0x5C, 0xFF};
 inline constexpr QColor kAccentSoft{122, 69, 240, 56};
+inline constexpr QColor kAccentPale{0xD9, 0xCC, 0xFF};
 inline constexpr QColor kFocus{0xA8, 0x88, 0xFF};
 
 // Meaning
@@ -65,6 +69,8 @@ inline constexpr QColor kTextWarn{0xFF, 0xA6, 0x4A};
 inline constexpr QColor kNoticeFill{0xFF, 0x9F, 0x3A, 20};
 inline constexpr QColor kNoticeLine{0xFF, 0x9F, 0x3A, 46};
 inline constexpr QColor kAccentSymbol{0xA8, 0x88, 0xFF};
+inline constexpr QColor kTextDanger{0xFF, 0x90, 0x88};
+inline constexpr QColor kDangerFill{0xFF, 0x6B, 0x61, 31};
 
 // Text
 inline constexpr QColor kText{0xF2, 0xF2, 0xF4};
@@ -78,6 +84,7 @@ inline constexpr QColor kTextProfile{0x99, 0x99, 0x99};
 inline constexpr QColor kTextBody{0xB0, 0xB0, 0xB6};
 inline constexpr QColor kTextInfo{0xC9, 0xC9, 0xCE};
 inline constexpr QColor kTextMinor{0x98, 0x98, 0x9E};
+inline constexpr QColor kTextHexZero{0x8A, 0x8A, 0x90};
 inline constexpr QColor kTextFixed = white(50);
 inline constexpr QColor kTextSection = white(60);
 inline constexpr QColor kTextLink = white(75);
@@ -92,7 +99,8 @@ struct TextStyle {
     int linePx = 16;
     QFont::Weight weight = QFont::Normal;
     double trackingEm = 0.0;
-    bool isTabular = false;  // figures of equal width
+    bool isTabular = false;     // figures of equal width
+    bool isMonospaced = false;  // all letters of equal width
 };
 inline constexpr TextStyle kBrandStyle{13, 16, QFont::DemiBold, 0.09};
 inline constexpr TextStyle kSectionStyle{11, 16, QFont::DemiBold, 0.06};
@@ -100,14 +108,22 @@ inline constexpr TextStyle kLayerLabelStyle{11, 13, QFont::DemiBold, 0.06};
 inline constexpr TextStyle kPresetLabelStyle{11, 13, QFont::DemiBold, 0.02};
 inline constexpr TextStyle kRowStyle{12, 16, QFont::Normal};
 inline constexpr TextStyle kRowSelectedStyle{12, 16, QFont::Medium};
-inline constexpr TextStyle kCategoryStyle{12.5, 16, QFont::Normal};
-inline constexpr TextStyle kCategorySelectedStyle{12.5, 16, QFont::Medium};
+inline constexpr TextStyle kLargeRowStyle{12.5, 16, QFont::Normal};
+inline constexpr TextStyle kLargeRowSelectedStyle{12.5, 16, QFont::Medium};
 inline constexpr TextStyle kTileStyle{12, 14, QFont::Medium};
+inline constexpr TextStyle kKeyButtonStyle{13, 16, QFont::Medium};
+inline constexpr TextStyle kMacroNameStyle{12, 16, QFont::DemiBold};
+inline constexpr TextStyle kRadioStyle{12.5, 16, QFont::Normal};
 inline constexpr TextStyle kNavStyle{13, 16, QFont::Medium};
 inline constexpr TextStyle kButtonStyle{12, 16, QFont::Medium};
-inline constexpr TextStyle kKeyButtonStyle{13, 16, QFont::Medium};
+inline constexpr TextStyle kSmallButtonStyle{11.5, 16, QFont::Medium};
 inline constexpr TextStyle kValueStyle{12, 16, QFont::Medium, 0.0, true};
 inline constexpr TextStyle kUnitStyle{11, 16, QFont::Normal};
+inline constexpr TextStyle kStepNumberStyle{11, 16, QFont::Normal, 0.0, true};
+inline constexpr TextStyle kDelayStyle{12, 16, QFont::Normal, 0.0, true};
+inline constexpr TextStyle kCodeStyle{11.5, 16, QFont::Normal, 0.0, false, true};
+inline constexpr TextStyle kHexStyle{10.3, 17, QFont::Normal, 0.0, false, true};
+inline constexpr TextStyle kShortHexStyle{10.3, 14, QFont::Normal, 0.0, false, true};
 inline constexpr TextStyle kDescriptionStyle{11.5, 16, QFont::Normal};
 inline constexpr TextStyle kLinkStyle{12, 16, QFont::Normal};
 inline constexpr TextStyle kMenuStyle{12, 16, QFont::Medium};
@@ -134,6 +150,7 @@ inline constexpr double kSwatchRadius = 8.0;
 inline constexpr double kRowRadius = 7.0;
 inline constexpr double kButtonRadius = 7.0;
 inline constexpr double kSmallRadius = 6.0;
+inline constexpr double kChipRadius = 5.0;
 
 inline constexpr int kWindowMargin = 16;
 inline constexpr int kCardGap = 12;

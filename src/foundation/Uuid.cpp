@@ -50,7 +50,7 @@ std::optional<Uuid> Uuid::fromText(std::string_view text) {
         const auto value = digitValue(text[at]);
         if (!value) return std::nullopt;
         auto& byte = uuid.bytes[digit / 2];
-        byte = static_cast<std::uint8_t>(byte << 4 | *value);
+        byte = static_cast<std::uint8_t>(byte * 16U + *value);
         ++digit;
     }
     return uuid;

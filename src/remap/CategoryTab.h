@@ -16,7 +16,8 @@ public:
     [[nodiscard]] std::string_view key() const { return m_key; }
 
 private:
-    static constexpr Looks kLooks{10, theme::kCategoryStyle, theme::kCategorySelectedStyle};
+    static constexpr Looks kLooks{
+        .nameX = 10, .style = theme::kLargeRowStyle, .selectedStyle = theme::kLargeRowSelectedStyle};
 
     std::string_view m_key;
 };

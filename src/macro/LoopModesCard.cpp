@@ -1,0 +1,62 @@
+#include "macro/LoopModesCard.h"
+
+#include "controls/FocusGroup.h"
+#include "controls/Theme.h"
+#include "macro/LoopRadio.h"
+
+namespace lumo {
+namespace {
+
+constexpr int kPadding = theme::kCardPadding;
+constexpr int kHeadingHeight = theme::kSectionStyle.linePx;
+
+struct Measures {
+    int firstRadio;  // from the top
+    int radioHeight;
+    int height;
+};
+constexpr Measures kUsual{34, 26, 122};
+constexpr Measures kShort{31, 24, 111};
+
+QString timesTitle(std::int64_t count) { return QString("Cycle times (%1)").arg(count); }
+
+}  // namespace
+
+LoopModesCard::LoopModesCard(QWidget* parent)
+    : HeadedCard(makeHeading("LOOP MODES"), parent), m_group(new FocusGroup({.across = 0, .down = 1}, this)) {
+    for (const QString& title : {timesTitle(0), QString("Until key released"), QString("Until key pressed")}) {
+        const auto mode = static_cast<std::int64_t>(m_radios.size());
+        auto* const radio = new LoopRadio(
+            title, [this, mode] { emit chosen(mode); }, this);
+        m_group->add(*radio);
+        m_radios.push_back(radio);
+    }
+}
+
+void LoopModesCard::setLoopCount(std::int64_t count) {
+    m_radios.front()->setTitle(timesTitle(count));
+    placeRadios();
+}
+
+void LoopModesCard::setMode(std::int64_t mode) {
+    for (std::size_t i = 0; i < m_radios.size(); ++i) m_radios[i]->setSelected(static_cast<std::int64_t>(i) == mode);
+    m_group->placeTabStop();
+}
+
+int LoopModesCard::heightOn(bool isShortPage) { return isShortPage ? kShort.height : kUsual.height; }
+
+void LoopModesCard::placeRadios() {
+    const Measures& measures = height() < kUsual.height ? kShort : kUsual;
+    int y = measures.firstRadio;
+    for (LoopRadio* const radio : m_radios) {
+        radio->setGeometry(kPadding, y, radio->sizeHint().width(), measures.radioHeight);
+        y += measures.radioHeight;
+    }
+}
+
+void LoopModesCard::resizeEvent(QResizeEvent*) {
+    heading().setGeometry(kPadding, kPadding, width() - 2 * kPadding, kHeadingHeight);
+    placeRadios();
+}
+
+}  // namespace lumo
