@@ -9,6 +9,7 @@
 
 #include "Hand.h"
 #include "LightingTour.h"
+#include "MacroTour.h"
 #include "PromptTour.h"
 #include "RemapTour.h"
 #include "Tour.h"
@@ -60,6 +61,7 @@ struct Guide {
         } else {
             lumo::tour::addWelcome(tour, hand);
             lumo::tour::addLightingPage(tour, hand, window);
+            lumo::tour::addMacroPage(tour, hand, window);
             lumo::tour::addRemapPage(tour, hand, window);
         }
         tour.begin();
