@@ -1,15 +1,21 @@
 add_library(lumo_core STATIC
     app/AssetPaths.cpp
     app/SharedObjects.cpp
+    audio/AudioVisualizerEngine.cpp
+    audio/MusicActions.cpp
+    audio/RhythmGenerator.cpp
     device/Exchange.cpp
     device/KeyTableCommands.cpp
     device/KeyTableReports.cpp
     device/LightingCommands.cpp
     device/LightingReports.cpp
     device/MacroCompiler.cpp
+    device/MusicCommands.cpp
+    device/ParameterReports.cpp
     device/PerKeyCommands.cpp
     device/PerKeyReports.cpp
     device/Report.cpp
+    device/SettingsCommands.cpp
     device/VexaProtocol.cpp
     foundation/Color.cpp
     foundation/FrameDeadlines.cpp
@@ -31,6 +37,7 @@ add_library(lumo_core STATIC
     remap/RemapCatalog.cpp
     remap/TargetText.cpp
     system/PermissionManager.cpp
+    system/SettingsActions.cpp
 )
 target_include_directories(lumo_core PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(lumo_core PUBLIC Threads::Threads PRIVATE lumo_options)

@@ -65,9 +65,17 @@ PermissionManager& SharedObjects::permissionManager() {
     return *m_permissionManager;
 }
 
+AudioVisualizerEngine& SharedObjects::audioVisualizerEngine() {
+    if (!m_audioVisualizerEngine) {
+        m_audioVisualizerEngine = std::make_unique<AudioVisualizerEngine>(m_platform.mainQueue(), vexaProtocol());
+    }
+    return *m_audioVisualizerEngine;
+}
+
 VexaProtocol& VexaProtocol::shared() { return SharedObjects::current().vexaProtocol(); }
 UIState& UIState::shared() { return SharedObjects::current().uiState(); }
 KeyboardModel& KeyboardModel::shared() { return SharedObjects::current().keyboardModel(); }
 PermissionManager& PermissionManager::shared() { return SharedObjects::current().permissionManager(); }
+AudioVisualizerEngine& AudioVisualizerEngine::shared() { return SharedObjects::current().audioVisualizerEngine(); }
 
 }  // namespace lumo

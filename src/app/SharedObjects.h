@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "app/UIState.h"
+#include "audio/AudioVisualizerEngine.h"
 #include "device/VexaProtocol.h"
 #include "keyboard/KeyboardModel.h"
 #include "platform/Platform.h"
@@ -31,6 +32,7 @@ public:
     [[nodiscard]] UIState& uiState();
     [[nodiscard]] KeyboardModel& keyboardModel();
     [[nodiscard]] PermissionManager& permissionManager();
+    [[nodiscard]] AudioVisualizerEngine& audioVisualizerEngine();
 
     /// A place for the one that AssetManager::shared() makes. It is only named here, since it holds Qt images, which
     /// the models must not see; whoever fills the place also brings the way to delete it.
@@ -51,6 +53,7 @@ private:
     std::unique_ptr<UIState> m_uiState;
     std::unique_ptr<KeyboardModel> m_keyboardModel;
     std::shared_ptr<PermissionManager> m_permissionManager;
+    std::unique_ptr<AudioVisualizerEngine> m_audioVisualizerEngine;
     std::shared_ptr<AssetManager> m_assetManager;
 };
 

@@ -27,4 +27,10 @@ std::vector<std::uint8_t> Exchange::query(std::span<const std::uint8_t> request,
     return recvReport();
 }
 
+std::vector<std::uint8_t> Exchange::queryAccepted(std::span<const std::uint8_t> request, Duration wait) const {
+    if (!sendReport(request)) return {};
+    pause(wait);
+    return recvReport();
+}
+
 }  // namespace lumo

@@ -30,6 +30,9 @@ public:
     /// Sends a read request, waits, and reads the answer. A refused request is not looked at: the read tells.
     [[nodiscard]] std::vector<std::uint8_t> query(std::span<const std::uint8_t> request, Duration wait) const;
 
+    /// The same, but empty at once when the request was refused.
+    [[nodiscard]] std::vector<std::uint8_t> queryAccepted(std::span<const std::uint8_t> request, Duration wait) const;
+
     void pause(Duration duration) const { m_io.run.pause(duration); }
 
 private:

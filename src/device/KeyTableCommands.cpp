@@ -13,9 +13,7 @@ using namespace std::chrono_literals;
 
 /// Absent when the keyboard refuses the request or does not answer it with a table.
 std::optional<std::vector<std::uint8_t>> readTable(const Exchange& exchange) {
-    if (!exchange.sendReport(kKeyTableRead)) return std::nullopt;
-    exchange.pause(30ms);
-    auto answer = exchange.recvReport();
+    auto answer = exchange.queryAccepted(kKeyTableRead, 30ms);
     if (!isKeyTable(answer)) return std::nullopt;
     return answer;
 }

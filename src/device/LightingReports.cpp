@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "device/ParameterBlock.h"
+
 namespace lumo {
 namespace {
 
@@ -17,22 +19,6 @@ struct ColorBlock {
     static constexpr std::size_t kEnoughToPatch = 516;
     static constexpr Report kBlank = reportBeginningWith(kReportId, 0, 0, 0, 1, 0);
     static_assert(disjointWithin<kReportSize, Command, Length, Records, InnerMarker, EndMarker>());
-};
-
-struct ParameterBlock {
-    using Command = Field<1>;
-    using Effect = Field<18>;
-    using Speed = Field<19>;
-    using Brightness = Field<20>;
-    using CustomColor = Field<21>;
-    static constexpr std::size_t kFirstRecord = 66;
-    static constexpr std::size_t kRecordSize = 2;  // brightness; speed in the high nibble, colour flag in bit 0
-    static constexpr std::int64_t kLastRecord = 32;
-    using Records = Field<kFirstRecord, kRecordSize*(kLastRecord + 1)>;
-    using EndMarker = Field<134, 2>;
-    static constexpr std::size_t kEnoughToPatch = 135;
-    static constexpr Report kBlank = reportBeginningWith(kReportId, 0, 0, 0, 1, 0, 0x80, 0);
-    static_assert(disjointWithin<kReportSize, Command, Effect, Speed, Brightness, CustomColor, Records, EndMarker>());
 };
 
 template <typename Block>
@@ -60,7 +46,7 @@ Report parameterBlockWrite(std::span<const std::uint8_t> answer, const LightingS
     const std::uint8_t colorFlag = settings.usesCustomColor ? 1 : 0;
 
     auto patch = patchOf<ParameterBlock>(answer);
-    patch.set<ParameterBlock::Command>(0x04)
+    patch.set<ParameterBlock::Command>(ParameterBlock::kWrite)
         .set<ParameterBlock::Effect>(hwId)
         .set<ParameterBlock::Speed>(speed)
         .set<ParameterBlock::Brightness>(brightness)

@@ -19,7 +19,6 @@ struct LightingSettings {
 };
 
 inline constexpr Report kColorBlockRead = reportBeginningWith(kReportId, 0x8A, 0, 0, 1, 0, 0xE3, 0x01);
-inline constexpr Report kParameterBlockRead = reportBeginningWith(kReportId, 0x84, 0, 0, 1, 0, 0x80);
 
 /// The colour block with one colour in all 21 records; the other bytes are those of `answer`, or zero when it is
 /// shorter than 516 bytes.

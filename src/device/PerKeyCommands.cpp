@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "device/LightingReports.h"
+#include "device/ParameterBlock.h"
 #include "device/PerKeyReports.h"
 #include "device/VexaProtocol.h"
 

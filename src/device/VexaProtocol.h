@@ -74,6 +74,17 @@ public:
     /// Uploads colours by LED number and switches to the effect that shows them.
     void setPerKeyRGB(LedColors colors);
 
+    /// Follows the music: the mean of the bands becomes a brightness of 1 to 4, sent only where it differs from the
+    /// published one. Silent, whether it succeeds or not.
+    void streamAudioVisualizerFrame(std::span<const std::uint8_t> frequencyBands);
+
+    /// The time in which a key's bouncing counts as one press, cut to whole tens of milliseconds from 0 to 40. Silent
+    /// without a keyboard and when it does not answer.
+    void setDebounce(std::int64_t ms);
+
+    /// Lighting and debounce as this program begins with them. The keyboard has no command of its own for that.
+    void factoryReset();
+
     /// A whole report with the key table, or none.
     using KeyTableCompletion = std::function<void(const std::optional<std::vector<std::uint8_t>>& table)>;
 

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "device/ParameterBlock.h"
+
 namespace lumo {
 namespace {
 
