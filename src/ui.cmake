@@ -15,6 +15,15 @@ add_library(lumo_ui STATIC
     app/Program.cpp
     app/StatusBar.cpp
     app/StatusChip.cpp
+    audio/Equalizer.cpp
+    audio/EqualizerBars.cpp
+    audio/EqualizerCard.cpp
+    audio/MicrophoneNotice.cpp
+    audio/MusicLevelsCard.cpp
+    audio/MusicModeList.cpp
+    audio/MusicModeTile.cpp
+    audio/MusicVisualizerView.cpp
+    audio/StreamToggle.cpp
     controls/Accessible.cpp
     controls/Appearance.cpp
     controls/BrandMark.cpp
@@ -47,6 +56,7 @@ add_library(lumo_ui STATIC
     controls/Slider.cpp
     controls/SliderInput.cpp
     controls/SliderLooks.cpp
+    controls/SliderSection.cpp
     controls/SoftShadow.cpp
     controls/StateDot.cpp
     controls/Symbol.cpp
@@ -78,7 +88,7 @@ add_library(lumo_ui STATIC
     keyboard/KeycapRecipe.cpp
     keyboard/KeycapSprite.cpp
     keyboard/LegendMask.cpp
-    keyboard/LevelSection.cpp
+    keyboard/LevelSections.cpp
     keyboard/LevelsCard.cpp
     keyboard/LightLoops.cpp
     keyboard/LightingControlView.cpp

@@ -11,6 +11,7 @@
 #include "app/PageArea.h"
 #include "app/SharedObjects.h"
 #include "app/StatusBar.h"
+#include "audio/MusicVisualizerView.h"
 #include "controls/FocusRing.h"
 #include "controls/Popup.h"
 #include "controls/Theme.h"
@@ -56,6 +57,9 @@ QWidget* makePage(NavTab tab) {
             return new LightingControlView(link, state, keyboard, mainQueue(), nullptr);
         case NavTab::macro:
             return new MacroEditorView(link, state, mainQueue(), nullptr);
+        case NavTab::music:
+            return new MusicVisualizerView(link, AudioVisualizerEngine::shared(), state, PermissionManager::shared(),
+                                           mainQueue(), nullptr);
         default:
             return nullptr;
     }

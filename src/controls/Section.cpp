@@ -12,16 +12,17 @@ constexpr int kContentTop = Section::kHeadingHeight + theme::kHeadingToContent;
 
 }  // namespace
 
-Section::Section(std::string_view heading, const theme::TextStyle& style, int margin, QWidget* parent)
-    : QWidget(parent), m_margin(margin), m_heading(new TextLine(style, theme::kTextSection, this)) {
+Section::Section(std::string_view heading, const theme::TextStyle& style, const QColor& color, QWidget* parent,
+                 int margin)
+    : QWidget(parent), m_margin(margin), m_heading(new TextLine(style, color, this)) {
     m_heading->setText(heading);
 }
 
 Section::Section(std::string_view heading, QWidget* parent, int margin)
-    : Section(heading, theme::kSectionStyle, margin, parent) {}
+    : Section(heading, theme::kSectionStyle, theme::kTextSection, parent, margin) {}
 
 Section::Section(std::string_view heading, const theme::TextStyle& style, QWidget* parent)
-    : Section(heading, style, 0, parent) {}
+    : Section(heading, style, theme::kTextSection, parent, 0) {}
 
 void Section::setContent(QWidget* content) {
     m_content = content;

@@ -21,6 +21,7 @@ public:
     Section(std::string_view heading, QWidget* parent, int margin = 0);
     /// Without a margin, in a style of its own.
     Section(std::string_view heading, const theme::TextStyle& style, QWidget* parent);
+    Section(std::string_view heading, const theme::TextStyle& style, const QColor& color, QWidget* parent, int margin);
 
     /// Owns the content from now on. Its minimum height decides the section's.
     void setContent(QWidget* content);
@@ -31,8 +32,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    Section(std::string_view heading, const theme::TextStyle& style, int margin, QWidget* parent);
-
     int m_margin;
     TextLine* m_heading;
     QWidget* m_content = nullptr;

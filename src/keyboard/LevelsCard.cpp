@@ -6,8 +6,9 @@
 #include "app/AssetManager.h"
 #include "controls/ColorWheel.h"
 #include "controls/Panel.h"
+#include "controls/SliderSection.h"
 #include "controls/Theme.h"
-#include "keyboard/LevelSection.h"
+#include "keyboard/LevelSections.h"
 
 namespace lumo {
 namespace {
@@ -33,16 +34,16 @@ LevelsCard::LevelsCard(MainQueue main, QWidget* parent)
       m_spectrum(new Section("COLOR SPECTRUM", this)),
       m_wheel(new ColorWheel(wheelPicture(), main, m_spectrum)) {
     m_wheel->setAccessibleName("COLOR SPECTRUM");
-    connect(m_brightness, &LevelSection::levelChanged, this, &LevelsCard::brightnessChanged);
-    connect(m_brightness, &LevelSection::edited, this, &LevelsCard::levelEdited);
-    connect(m_speed, &LevelSection::levelChanged, this, &LevelsCard::speedChanged);
-    connect(m_speed, &LevelSection::edited, this, &LevelsCard::levelEdited);
+    connect(m_brightness, &SliderSection::valueChanged, this, &LevelsCard::brightnessChanged);
+    connect(m_brightness, &SliderSection::edited, this, &LevelsCard::levelEdited);
+    connect(m_speed, &SliderSection::valueChanged, this, &LevelsCard::speedChanged);
+    connect(m_speed, &SliderSection::edited, this, &LevelsCard::levelEdited);
     connect(m_wheel, &ColorWheel::picked, this, &LevelsCard::colorPicked);
 }
 
-void LevelsCard::setBrightness(double level) { m_brightness->setLevel(level); }
+void LevelsCard::setBrightness(double level) { m_brightness->setValue(level); }
 
-void LevelsCard::setSpeed(double level) { m_speed->setLevel(level); }
+void LevelsCard::setSpeed(double level) { m_speed->setValue(level); }
 
 void LevelsCard::setColor(const Color& color) { m_wheel->setColor(color); }
 
@@ -54,7 +55,8 @@ void LevelsCard::paintEvent(QPaintEvent*) {
 void LevelsCard::resizeEvent(QResizeEvent*) {
     constexpr int kPadding = theme::kCardPadding;
     const int inner = width() - 2 * kPadding;
-    const QRect level(kPadding - LevelSection::kRoom, kPadding, inner + 2 * LevelSection::kRoom, LevelSection::kHeight);
+    const QRect level(kPadding - SliderSection::kRoom, kPadding, inner + 2 * SliderSection::kRoom,
+                      SliderSection::kHeight);
     m_brightness->setGeometry(level);
     m_speed->setGeometry(level.translated(0, kPitch));
     const int spectrumTop = kPadding + 2 * kPitch;

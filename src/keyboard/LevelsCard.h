@@ -9,8 +9,8 @@
 namespace lumo {
 
 class ColorWheel;
-class LevelSection;
 class Section;
+class SliderSection;
 
 /// Main thread.
 class LevelsCard final : public QWidget {
@@ -35,8 +35,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    LevelSection* m_brightness;
-    LevelSection* m_speed;
+    SliderSection* m_brightness;
+    SliderSection* m_speed;
     Section* m_spectrum;
     ColorWheel* m_wheel;
 };

@@ -7,9 +7,9 @@
 #include "controls/ColorWheel.h"
 #include "controls/PushButton.h"
 #include "controls/Slider.h"
+#include "controls/SliderSection.h"
 #include "controls/TextLine.h"
 #include "gui/WindowFixture.h"
-#include "keyboard/LevelSection.h"
 #include "keyboard/LevelsCard.h"
 
 namespace lumo {
@@ -50,14 +50,14 @@ protected:
         }
         return bytes;
     }
-    std::vector<QString> texts(LevelSection& section) {
+    std::vector<QString> texts(SliderSection& section) {
         std::vector<QString> shown;
         for (const TextLine* const line : section.findChildren<TextLine*>()) {
             if (line->isVisible()) shown.push_back(line->text());
         }
         return shown;
     }
-    LevelSection& section(int index) { return *view->findChildren<LevelSection*>().at(index); }
+    SliderSection& section(int index) { return *view->findChildren<SliderSection*>().at(index); }
     std::ptrdiff_t keysOf(const Color& color) {
         return std::ranges::count(keyboard().keys.get(), color, &KeyCap::customColor);
     }

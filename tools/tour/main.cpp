@@ -10,6 +10,7 @@
 #include "Hand.h"
 #include "LightingTour.h"
 #include "MacroTour.h"
+#include "MusicTour.h"
 #include "PromptTour.h"
 #include "RemapTour.h"
 #include "Tour.h"
@@ -58,6 +59,7 @@ struct Guide {
     Guide(QWidget& window, const Wishes& wishes) : hand(window), tour(window, wishes.folder) {
         if (wishes.isLaterLaunch) {
             lumo::tour::addLaterLaunch(tour, hand, window);
+            lumo::tour::addMusicPage(tour, hand, window);
         } else {
             lumo::tour::addWelcome(tour, hand);
             lumo::tour::addLightingPage(tour, hand, window);
