@@ -118,10 +118,18 @@ add_library(lumo_ui STATIC
     remap/KeyRemapView.cpp
     remap/RemapCard.cpp
     remap/TargetPanel.cpp
+    system/DeviceSheet.cpp
+    system/HardwareTuningCard.cpp
     system/PermissionExplainerRow.cpp
+    system/PermissionRow.cpp
     system/PermissionToast.cpp
+    system/PermissionsCard.cpp
     system/PromptCard.cpp
     system/RecheckPopup.cpp
+    system/SettingsView.cpp
+    system/SpecRow.cpp
+    system/StatusBadge.cpp
+    system/TccNotice.cpp
     system/ToastText.cpp
     system/WelcomePopup.cpp
 )

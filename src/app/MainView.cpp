@@ -23,6 +23,7 @@
 #include "system/PermissionManager.h"
 #include "system/PermissionToast.h"
 #include "system/RecheckPopup.h"
+#include "system/SettingsView.h"
 #include "system/WelcomePopup.h"
 
 namespace lumo {
@@ -60,6 +61,8 @@ QWidget* makePage(NavTab tab) {
         case NavTab::music:
             return new MusicVisualizerView(link, AudioVisualizerEngine::shared(), state, PermissionManager::shared(),
                                            mainQueue(), nullptr);
+        case NavTab::settings:
+            return new SettingsView(link, state, PermissionManager::shared(), mainQueue(), nullptr);
         default:
             return nullptr;
     }

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kPadding = 12;
 constexpr PressColors kFill{theme::kTile, theme::kTileHover, theme::kTilePressed};
-constexpr PressColors kLine{theme::kTileLine, theme::kTileHoverLine, theme::kTileLine};
+constexpr PressColors kLine{theme::kTileLine, theme::kTileLineHover, theme::kTileLine};
 constexpr PressColors kName{theme::kTextRow, theme::white(100), theme::kTextRowPressed};
 
 Lettering lettering(bool isSelected) { return Lettering(isSelected ? theme::kRowSelectedStyle : theme::kRowStyle); }

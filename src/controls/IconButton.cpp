@@ -12,6 +12,9 @@ namespace lumo {
 constinit const ButtonSkin look::kGhost{{theme::white(0), theme::white(8), theme::kControlPressed},
                                         {theme::kTextBody, theme::white(100), theme::kTextRowPressed},
                                         {0, 0, 0, 0}};
+constinit const ButtonSkin look::kFilled{{theme::kControl, theme::kControlHover, theme::kControlPressed},
+                                         {theme::kTextButton, theme::white(100), theme::kTextRowPressed},
+                                         theme::kControlLine};
 
 IconButton::IconButton(const QString& name, QString symbol, double symbolSize, QWidget* parent, const ButtonSkin& skin)
     : PushControl(name, QAccessible::PushButton, parent),
@@ -21,11 +24,13 @@ IconButton::IconButton(const QString& name, QString symbol, double symbolSize, Q
     resize(kSize, kSize);
 }
 
-RingShape IconButton::ringShape() const { return ringAround(rect(), theme::kButtonRadius); }
+RingShape IconButton::ringShape() const { return ringAround(rect(), radius()); }
+
+double IconButton::radius() const { return width() < kSize ? theme::kSmallRadius : theme::kButtonRadius; }
 
 void IconButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    paintPanel(painter, rect(), theme::kButtonRadius, m_skin.fill.at(hover(), press()), m_skin.line);
+    paintPanel(painter, rect(), radius(), m_skin.fill.at(hover(), press()), m_skin.line);
     QRectF frame(0.0, 0.0, m_symbolSize, m_symbolSize);
     frame.moveCenter(QRectF(rect()).center());
     paintSymbol(painter, frame, m_symbol, m_skin.text.at(hover(), press()));

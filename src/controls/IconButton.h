@@ -8,6 +8,7 @@ namespace lumo {
 namespace look {
 
 extern const ButtonSkin kGhost;  // has no surface until the pointer is over it
+extern const ButtonSkin kFilled;
 
 }  // namespace look
 
@@ -17,6 +18,7 @@ class IconButton final : public PushControl {
 
 public:
     static constexpr int kSize = 28;
+    static constexpr int kSmallSize = 24;
 
     /// `name` is what assistive technology reads and hover help shows; the symbol's frame has that many points. The
     /// skin outlives the button.
@@ -29,6 +31,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    [[nodiscard]] double radius() const;
+
     const ButtonSkin& m_skin;
     QString m_symbol;
     double m_symbolSize;

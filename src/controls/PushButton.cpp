@@ -59,6 +59,19 @@ constinit const ButtonLook kPopupSecondary{
     {},
     theme::kPopupButtonStyle,
     theme::kPopupButtonRadius};
+constinit const ButtonLook kDanger{
+    {{QColor(0xFF, 0x5C, 0x52, 26), QColor(0xFF, 0x5C, 0x52, 46), QColor(0xFF, 0x5C, 0x52, 15)},
+     {QColor(0xFF, 0x90, 0x88), QColor(0xFF, 0xA9, 0xA2), QColor(0xE0, 0x7F, 0x78)},
+     {0xFF, 0x6B, 0x61, 107}},
+    {}};
+constinit const ButtonLook kSmallPrimary{
+    withLine(kAccentSkin, theme::kPrimaryLine), {}, theme::kSmallButtonStyle, theme::kSmallRadius};
+constinit const ButtonLook kSmallQuiet{{{theme::white(5), theme::white(10), theme::white(3)},
+                                        {QColor(0xDE, 0xDE, 0xE2), theme::white(100), theme::kTextRowPressed},
+                                        kNone},
+                                       {},
+                                       theme::kSmallButtonStyle,
+                                       theme::kSmallRadius};
 
 }  // namespace look
 

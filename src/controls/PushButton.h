@@ -46,6 +46,9 @@ extern const ButtonLook kProfile;
 extern const ButtonLook kAction;
 extern const ButtonLook kPopupPrimary;
 extern const ButtonLook kPopupSecondary;
+extern const ButtonLook kDanger;
+extern const ButtonLook kSmallPrimary;
+extern const ButtonLook kSmallQuiet;
 
 }  // namespace look
 

@@ -13,6 +13,7 @@
 #include "MusicTour.h"
 #include "PromptTour.h"
 #include "RemapTour.h"
+#include "SettingsTour.h"
 #include "Tour.h"
 #include "app/Program.h"
 #include "demo/DemoPlatform.h"
@@ -60,6 +61,7 @@ struct Guide {
         if (wishes.isLaterLaunch) {
             lumo::tour::addLaterLaunch(tour, hand, window);
             lumo::tour::addMusicPage(tour, hand, window);
+            lumo::tour::addSettingsPage(tour, hand, window);
         } else {
             lumo::tour::addWelcome(tour, hand);
             lumo::tour::addLightingPage(tour, hand, window);

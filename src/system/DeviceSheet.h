@@ -1,0 +1,28 @@
+// The card with the device's specifications.
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+namespace lumo {
+
+class Section;
+class SpecRow;
+
+/// Main thread.
+class DeviceSheet final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit DeviceSheet(QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    Section* m_section;
+    std::vector<SpecRow*> m_rows;
+};
+
+}  // namespace lumo
