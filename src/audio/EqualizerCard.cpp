@@ -45,6 +45,8 @@ void EqualizerCard::setLevels(const BandLevels& levels) { m_equalizer->bars().se
 
 void EqualizerCard::setSource(std::string_view name) { m_equalizer->setSource(name); }
 
+PushControl& EqualizerCard::toggle() const { return *m_toggle; }
+
 void EqualizerCard::place(const QRect& card, bool isShort) {
     setGeometry(card);
     constexpr int kPadding = theme::kCardPadding;

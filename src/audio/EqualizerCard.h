@@ -9,6 +9,7 @@
 namespace lumo {
 
 class Equalizer;
+class PushControl;
 class Section;
 class StreamToggle;
 class TextBlock;
@@ -23,6 +24,7 @@ public:
     void setStreaming(bool isStreaming);
     void setLevels(const BandLevels& levels);
     void setSource(std::string_view name);
+    [[nodiscard]] PushControl& toggle() const;
     /// In the parent's coordinates; a short page has smaller gaps and a lower toggle.
     void place(const QRect& card, bool isShort);
 

@@ -43,6 +43,8 @@ int MicrophoneNotice::heightWithin(int width) const {
     return std::max(m_text->heightWithin(textWidthWithin(width)), kButtonHeight) + 2 * kPadding;
 }
 
+PushControl& MicrophoneNotice::button() const { return *m_grant; }
+
 void MicrophoneNotice::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintCard(painter, rect());

@@ -6,6 +6,7 @@
 namespace lumo {
 
 class PushButton;
+class PushControl;
 class TextBlock;
 
 /// Main thread.
@@ -17,6 +18,7 @@ public:
 
     /// What its text needs within that width.
     [[nodiscard]] int heightWithin(int width) const;
+    [[nodiscard]] PushControl& button() const;
 
 signals:
     void grantAccess();

@@ -10,6 +10,7 @@
 #include "audio/MusicModeList.h"
 #include "controls/Card.h"
 #include "controls/Columns.h"
+#include "controls/PushControl.h"
 #include "controls/Section.h"
 #include "controls/Theme.h"
 #include "device/VexaProtocol.h"
@@ -72,6 +73,7 @@ void MusicVisualizerView::refresh() {
 void MusicVisualizerView::showNotice(bool isShown) {
     if (isShown == m_showsNotice) return;
     m_showsNotice = isShown;
+    if (!isShown) m_notice->button().handFocusTo(m_equalizer->toggle());
     m_notice->setVisible(isShown);
     place();
 }

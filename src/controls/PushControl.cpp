@@ -62,6 +62,10 @@ void PushControl::setSelected(bool selected) {
     tellOfSelection(*this, m_role);
 }
 
+void PushControl::handFocusTo(PushControl& other) {
+    if (hasFocus()) other.setFocus(showsRing() ? Qt::OtherFocusReason : Qt::MouseFocusReason);
+}
+
 std::optional<RingShape> PushControl::ring() const {
     if (!showsRing()) return std::nullopt;
     return ringShape();

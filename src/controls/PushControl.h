@@ -24,6 +24,10 @@ public:
     /// Has the focus, and got it from the keyboard.
     [[nodiscard]] bool showsRing() const { return hasFocus() && m_hasKeyboardFocus; }
 
+    /// To be called before it is hidden: its focus goes there, if it has it, with a ring only where it shows one
+    /// itself.
+    void handFocusTo(PushControl& other);
+
     [[nodiscard]] std::optional<RingShape> ring() const final;
     QAccessibleInterface* makeAccessible() final;
 

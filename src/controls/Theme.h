@@ -125,7 +125,7 @@ inline constexpr TextStyle kPermissionsHeadingStyle{11, 24, QFont::DemiBold, 0.0
 inline constexpr TextStyle kStrongStyle{12.5, 16, QFont::DemiBold};
 inline constexpr TextStyle kNoticeHeadingStyle{12, 16, QFont::DemiBold};
 inline constexpr TextStyle kSheetLabelStyle{11.5, 16, QFont::Normal};
-inline constexpr TextStyle kSheetValueStyle{11.3, 16, QFont::Normal};
+inline constexpr TextStyle kSheetValueStyle{11.2, 16, QFont::Normal};
 inline constexpr TextStyle kTuningLabelStyle{12.5, 16, QFont::Normal};
 inline constexpr TextStyle kValueStyle{12, 16, QFont::Medium, 0.0, true};
 inline constexpr TextStyle kUnitStyle{11, 16, QFont::Normal};

@@ -55,6 +55,7 @@ void PermissionRow::setAuthorized(bool isAuthorized) {
     if (isAuthorized == m_isAuthorized) return;
     m_isAuthorized = isAuthorized;
     m_badge->setGranted(isAuthorized);
+    if (isAuthorized) m_request->handFocusTo(*m_gear);
     m_request->setVisible(!isAuthorized);
     place();
     update();

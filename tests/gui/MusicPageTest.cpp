@@ -265,5 +265,17 @@ TEST_F(MusicPage, CanBeUsedByTheKeyboardAlone) {
     EXPECT_TRUE(engine().isRunning.get());
 }
 
+TEST_F(MusicPage, AGrantThatTakesTheNoticeAwayHandsItsFocusToTheToggle) {
+    state().currentTab.set(NavTab::music);
+    showActive();
+    setMicrophone(AudioAuthorization::denied);
+    turn();
+    control("Grant Access").setFocus(Qt::MouseFocusReason);
+    setMicrophone(AudioAuthorization::authorized);
+    turn();
+    EXPECT_TRUE(control("STREAM: OFF").hasFocus());
+    EXPECT_FALSE(control("STREAM: OFF").showsRing());
+}
+
 }  // namespace
 }  // namespace lumo

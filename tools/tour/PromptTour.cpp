@@ -31,7 +31,8 @@ void addLaterLaunch(Tour& tour, Hand& hand, QWidget& window) {
     tour.picture("09-recheck.png");
     tour.then(
         "the popup is dismissed", [&hand] { hand.click("Dismiss to Settings"); },
-        [&hand] { return !hand.reads(kRecheck); });
+        [&hand] { return !hand.reads(kRecheck) && hand.reads("DEVICE SPECIFICATIONS"); });
+    tour.picture("09-toast-on-settings.png");
     tour.then(
         "back to the lighting page", [&hand] { hand.click("Lighting Effect"); },
         [&hand] { return hand.reads("LIGHTING EFFECT"); });
