@@ -30,8 +30,7 @@ Equalizer::Equalizer(QWidget* parent)
 }
 
 void Equalizer::setSource(std::string_view name) {
-    m_source->setText(name);
-    m_bars->setAccessibleName(m_source->text());
+    if (m_source->setText(name)) m_bars->setAccessibleName(m_source->text());
 }
 
 void Equalizer::paintEvent(QPaintEvent*) {

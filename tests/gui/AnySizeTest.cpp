@@ -25,7 +25,11 @@ private:
     QtMessageHandler m_before = nullptr;
 };
 
-TEST_F(AnySize, IsPaintedWithoutAWord) {
+class AnyPage : public AnySize, public testing::WithParamInterface<NavTab> {};
+INSTANTIATE_TEST_SUITE_P(Of, AnyPage, testing::Values(NavTab::lighting, NavTab::music, NavTab::settings));
+
+TEST_P(AnyPage, IsPaintedWithoutAWord) {
+    state().currentTab.set(GetParam());
     show();
     for (const QSize size : {QSize(1, 1), QSize(0, 0), QSize(40, 700), QSize(960, 40), QSize(60, 460), QSize(500, 450),
                              QSize(700, 520), QSize(300, 8000), QSize(8000, 300), QSize(960, 760)}) {

@@ -116,7 +116,7 @@ TEST_F(SettingsLayout, TheRowsAreGroupsNamedByTheirTitles) {
     for (const QAccessibleInterface* const group : accessibles(*view, QAccessible::Grouping)) {
         if (!nameOf(*group).isEmpty()) groups.push_back(nameOf(*group));
     }
-    EXPECT_THAT(groups, ElementsAre("Microphone Access", "Accessibility & Input Monitoring"));
+    EXPECT_THAT(groups, ElementsAre("Keyboard", "Microphone Access", "Accessibility & Input Monitoring"));
 }
 
 TEST_F(SettingsLayout, SectionsAndSlidersAreNamedByTheirHeadings) {
