@@ -46,7 +46,6 @@ QRect pageColumn(const QWidget& view) {
     return {(view.width() - width) / 2, kPageTop, width, 0};
 }
 
-/// Null for a page that does not exist yet.
 QWidget* makePage(NavTab tab) {
     VexaProtocol& link = VexaProtocol::shared();
     UIState& state = UIState::shared();
@@ -62,10 +61,9 @@ QWidget* makePage(NavTab tab) {
             return new MusicVisualizerView(link, AudioVisualizerEngine::shared(), state, PermissionManager::shared(),
                                            mainQueue(), nullptr);
         case NavTab::settings:
-            return new SettingsView(link, state, PermissionManager::shared(), mainQueue(), nullptr);
-        default:
-            return nullptr;
+            break;
     }
+    return new SettingsView(link, state, PermissionManager::shared(), mainQueue(), nullptr);
 }
 
 }  // namespace

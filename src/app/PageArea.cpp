@@ -24,7 +24,6 @@ void PageArea::setPage(QWidget* page) {
         before->hide();
         before->deleteLater();  // what changes the page may come out of the page itself
     }
-    if (!page) return;
     setWidget(page);
     page->setAutoFillBackground(false);
     page->show();

@@ -16,7 +16,7 @@ class PageArea final : public ScrollBox {
 public:
     explicit PageArea(QWidget* parent);
 
-    /// Owns the page; the one before it goes. Null leaves the area empty.
+    /// Owns the page; the one before it goes.
     void setPage(QWidget* page);
 
 protected:
