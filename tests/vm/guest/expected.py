@@ -97,8 +97,11 @@ PARAMETER_BLOCK_WRITE = bytes.fromhex("""
 """)
 
 # The only places that may differ from what the keyboard answered: command and length, 21 colours of three bytes,
-# two end marks; command, effect header, the record of effect 0f, end mark.
+# two end marks; command, effect header, the record of the effect, end mark.
 COLOUR_BLOCK_PATCHED = (
     {1, 6, 7, 8, 491, 492, 514, 515} | {9 + 21 * record + part for record in range(21) for part in range(3)}
 )
-PARAMETER_BLOCK_PATCHED = {1, 18, 19, 20, 21, 96, 97, 134, 135}
+
+
+def parameter_block_patched(effect):
+    return {1, 18, 19, 20, 21, 66 + 2 * effect, 67 + 2 * effect, 134, 135}

@@ -6,9 +6,11 @@ import sys
 
 import chapter_life
 import chapter_lighting
+import chapter_music
 import chapter_quitting
 import chapter_remap
 import chapter_rights
+import chapter_settings
 import desktop
 import hidraw
 from application import Application
@@ -26,8 +28,8 @@ def keyboards():
     """All are started while we are root, and none is plugged. Their names are no other text of the application."""
     usb, uhid = f"{BIN}/lumo-usbip-keyboard", f"{BIN}/lumo-uhid-keyboard"
     programs = {"rights": (usb, CABLE), "rights-receiver": (usb, RECEIVER), "usb": (usb, CABLE),
-                "lighting": (usb, CABLE), "remap": (usb, CABLE), "uhid": (uhid, RECEIVER),
-                "hanging-set": (usb, RECEIVER), "hanging-get": (usb, CABLE)}
+                "lighting": (usb, CABLE), "remap": (usb, CABLE), "music": (usb, RECEIVER), "settings": (usb, CABLE),
+                "uhid": (uhid, RECEIVER), "hanging-set": (usb, RECEIVER), "hanging-get": (usb, CABLE)}
     return {chapter: Keyboard(program, f"{LOGS}/{chapter}.jsonl", name=f"Lumo <{chapter}> ü", **ids)
             for chapter, (program, ids) in programs.items()}
 
@@ -44,6 +46,8 @@ def tell_as_user(checks, boards):
     chapter("USB keyboard", "usb", chapter_life.tell)
     chapter("Lighting page", "lighting", chapter_lighting.tell)
     chapter("Remap page", "remap", chapter_remap.tell)
+    chapter("Music page", "music", chapter_music.tell)
+    chapter("Settings page", "settings", chapter_settings.tell)
     chapter("HID keyboard without a bus", "uhid", chapter_life.tell)
     for board, hang in (("hanging-set", "set 8a hang"), ("hanging-get", "get 8a hang")):
         chapter(f"Quitting while \"{hang}\"", board, functools.partial(chapter_quitting.tell, hang=hang))
