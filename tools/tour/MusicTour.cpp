@@ -15,7 +15,7 @@ void addStream(Tour& tour, Hand& hand) {
     tour.then(
         "a mode starts the stream", [&hand] { hand.click(kMode); },
         [&hand] { return hand.count("STREAMING: ON") == 1 && hand.reads(QString("Music reactive mode: ") + kMode); });
-    tour.picture("21-music-streaming.png");
+    tour.picture("41-music-streaming.png");
     tour.then(
         "the microphone is allowed", [&hand] { hand.click("Grant Access"); }, [&hand] { return !hand.reads(kNotice); });
     tour.then(
@@ -24,7 +24,7 @@ void addStream(Tour& tour, Hand& hand) {
             hand.drag("GAIN FACTOR", {90, 10}, {300, 0});
         },
         [&hand] { return hand.reads("5.0x"); });
-    tour.picture("22-music-allowed.png");
+    tour.picture("42-music-allowed.png");
     tour.then(
         "the stream is stopped", [&hand] { hand.click("STREAMING: ON"); },
         [&hand] { return hand.count("STREAM: OFF") == 1; });
@@ -40,11 +40,11 @@ void addMusicPage(Tour& tour, Hand& hand, QWidget& window) {
             hand.click("Music Visualizer");
         },
         [&hand, &window] { return hand.reads(kNotice) && window.size() == QSize(960, 760); });
-    tour.picture("20-music.png");
+    tour.picture("40-music.png");
     tour.then(
         "the smallest window", [&window] { window.resize(900, 680); },
         [&window] { return window.size() == QSize(900, 680); });
-    tour.picture("23-music-smallest.png");
+    tour.picture("43-music-smallest.png");
     tour.then(
         "the usual window", [&window] { window.resize(960, 760); },
         [&window] { return window.size() == QSize(960, 760); });

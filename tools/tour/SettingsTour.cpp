@@ -11,7 +11,7 @@ void addSettingsPage(Tour& tour, Hand& hand, QWidget& window) {
     tour.then(
         "the settings page", [&hand] { hand.click("Device Settings"); },
         [&hand] { return hand.reads("DEVICE SPECIFICATIONS"); });
-    tour.picture("30-settings.png");
+    tour.picture("50-settings.png");
     tour.then(
         "the debounce is set",
         [&hand] {
@@ -26,14 +26,14 @@ void addSettingsPage(Tour& tour, Hand& hand, QWidget& window) {
     tour.then(
         "the smallest window", [&window] { window.resize(900, 680); },
         [&window] { return window.size() == QSize(900, 680); });
-    tour.picture("31-settings-smallest.png");
+    tour.picture("51-settings-smallest.png");
     tour.then(
         "the focus scrolls the page",
         [&hand] {
             for (int stop = 0; stop < 5; ++stop) hand.key(Qt::Key_Tab);
         },
         [&hand] { return hand.focused() == "Relaunch App"; });
-    tour.picture("32-settings-scrolled.png");
+    tour.picture("52-settings-scrolled.png");
     tour.then(
         "the keys are allowed",
         [&hand, &window] {
@@ -41,7 +41,7 @@ void addSettingsPage(Tour& tour, Hand& hand, QWidget& window) {
             hand.click("Request Access");
         },
         [&hand] { return hand.count("Request Access") == 0; });
-    tour.picture("33-settings-granted.png");
+    tour.picture("53-settings-granted.png");
 }
 
 }  // namespace lumo::tour
