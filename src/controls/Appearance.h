@@ -19,20 +19,24 @@ public:
     /// From 0, gone, to 1, all there.
     [[nodiscard]] double share() const { return m_share; }
     /// Neither coming nor going.
-    [[nodiscard]] bool isResting() const { return m_share == (m_isShown ? 1.0 : 0.0); }
+    [[nodiscard]] bool isResting() const { return m_share == end(); }
     [[nodiscard]] bool isGone() const { return !m_isShown && m_share == 0.0; }
     /// How far below its place it is, in points.
-    [[nodiscard]] double drop() const;
+    [[nodiscard]] double drop() const { return m_drop; }
 
 private:
-    void moveTo(double share);
+    [[nodiscard]] double end() const { return m_isShown ? 1.0 : 0.0; }
+    void setOut();
+    void moveOn(double progress);
 
     int m_comingMs;
     std::function<void()> m_moved;
     bool m_isShown = false;
-    bool m_rises = false;
     double m_share = 0.0;
-    QVariantAnimation m_way;
+    double m_drop = 0.0;
+    double m_shareBefore = 0.0;  // where the way began
+    double m_dropBefore = 0.0;
+    QVariantAnimation m_way;  // always from 0 to 1: an animation that has ended answers another end by going there
 };
 
 }  // namespace lumo

@@ -1,12 +1,17 @@
 // What the prompts about permissions do, with real clicks.
 #include <gmock/gmock.h>
 
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QMouseEvent>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "app/StatusBar.h"
 #include "app/StatusChip.h"
 #include "controls/Popup.h"
 #include "controls/PushControl.h"
+#include "gui/EventCount.h"
 #include "gui/PromptFixture.h"
 #include "system/PermissionToast.h"
 
@@ -164,6 +169,23 @@ TEST_F(Prompt, TheBackdropTakesEveryClickAndDoesNothingWithIt) {
     EXPECT_TRUE(keyboard().selectedKeyIds.get().empty());
     EXPECT_EQ(focusedName(), before);
     EXPECT_THAT(platform.journal, IsEmpty());
+}
+
+TEST_F(Prompt, TheBackdropLetsNoPointerEventThrough) {
+    showFirstLaunch();
+    const QPointF at(100, 70);
+    const QPointF onScreen = view->mapToGlobal(at);
+    QWheelEvent wheel(at, onScreen, {0, -60}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QContextMenuEvent menu(QContextMenuEvent::Mouse, at.toPoint(), onScreen.toPoint());
+    QMouseEvent press(QEvent::MouseButtonPress, at, onScreen, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent twice(QEvent::MouseButtonDblClick, at, onScreen, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+    for (QEvent* const event : {static_cast<QEvent*>(&wheel), static_cast<QEvent*>(&menu), static_cast<QEvent*>(&press),
+                                static_cast<QEvent*>(&twice)}) {
+        const test::EventCount behind(*view, event->type());
+        QApplication::sendEvent(&welcome(), event);
+        EXPECT_TRUE(event->isAccepted()) << event->type();
+        EXPECT_EQ(behind.count(), 0) << event->type();
+    }
 }
 
 TEST_F(Prompt, TheChipsTellTheTwoGrantsApart) {

@@ -90,6 +90,31 @@ TEST_F(XdgPreferencesTest, APipeInTheFilesPlaceIsNotWaitedFor) {
     EXPECT_TRUE(preferences.boolForKey(kFlag));
 }
 
+TEST_F(XdgPreferencesTest, ALinkToTheFileIsFollowedAndStays) {
+    ASSERT_TRUE(QDir().mkpath(folder.filePath("vexa-lumo-65")));
+    const QString target = folder.filePath("elsewhere.ini");
+    ASSERT_TRUE(QFile::link(target, path));  // which is not there yet
+    setTrue();
+    EXPECT_TRUE(readsTrue());
+    EXPECT_EQ(QFileInfo(path).symLinkTarget(), target);
+    EXPECT_TRUE(QFileInfo(target).isFile());
+}
+
+TEST_F(XdgPreferencesTest, ALinkToWhatIsNoFileStaysAndKeepsTheValueForThisRun) {
+    ASSERT_TRUE(QDir().mkpath(folder.filePath("vexa-lumo-65")));
+    const QString pipe = folder.filePath("pipe");
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    for (const QString& target : {pipe, folder.path(), QString("/dev/zero")}) {
+        QFile::remove(path);
+        ASSERT_TRUE(QFile::link(target, path));
+        XdgPreferences preferences(path);
+        EXPECT_FALSE(preferences.boolForKey(kFlag)) << target.toStdString();
+        preferences.setBool(true, kFlag);
+        EXPECT_TRUE(preferences.boolForKey(kFlag)) << target.toStdString();
+        EXPECT_TRUE(QFileInfo(path).isSymLink()) << target.toStdString();
+    }
+}
+
 TEST_F(XdgPreferencesTest, WhereNothingCanBeWrittenTheValueStaysForThisRun) {
     writeFile("");
     const QString below = path + "/preferences.ini";  // a file where a folder would have to be
