@@ -38,8 +38,10 @@ add_library(lumo_ui STATIC
     controls/HeadedCard.cpp
     controls/IconButton.cpp
     controls/InfoBox.cpp
+    controls/LeavingFocus.cpp
     controls/Lettering.cpp
     controls/ListRow.cpp
+    controls/LowStripes.cpp
     controls/Motion.cpp
     controls/PacedColor.cpp
     controls/Panel.cpp

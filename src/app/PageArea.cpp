@@ -3,6 +3,7 @@
 #include <QScrollBar>
 
 #include "app/PageVeil.h"
+#include "controls/LeavingFocus.h"
 #include "controls/ScrollHint.h"
 
 namespace lumo {
@@ -20,6 +21,7 @@ PageArea::PageArea(QWidget* parent)
 
 void PageArea::setPage(QWidget* page) {
     const bool isFirst = !widget();
+    if (!isFirst) letGoOfFocus(*this);
     if (QWidget* const before = takeWidget()) {
         before->hide();
         before->deleteLater();  // what changes the page may come out of the page itself

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "controls/Fade.h"
+#include "controls/LowStripes.h"
 #include "controls/PushControl.h"
 #include "controls/Theme.h"
 
@@ -63,7 +64,11 @@ Popup::Popup(const QString& heading, QWidget* card, PushControl& first, PushCont
 
 void Popup::setShown(bool isShown) {
     if (isShown == this->isShown()) return;
-    setAttribute(Qt::WA_TransparentForMouseEvents, !isShown);  // what is on its way out stands in nobody's way
+    // What is on its way out stands in nobody's way.
+    setAttribute(Qt::WA_TransparentForMouseEvents, !isShown);
+    for (PushControl* const button : {&m_first, &m_second}) {
+        button->setFocusPolicy(isShown ? Qt::StrongFocus : Qt::NoFocus);
+    }
     if (isShown) {
         show();
         takeFocus();
@@ -86,7 +91,7 @@ void Popup::takeFocus() {
 
 void Popup::giveFocusBack() {
     if (!isAncestorOf(window()->focusWidget())) return;
-    const bool canTakeIt = m_focusBefore && m_focusBefore->isVisible() && !isAncestorOf(m_focusBefore);
+    const bool canTakeIt = m_focusBefore && m_focusBefore->isVisible() && m_focusBefore->focusPolicy() != Qt::NoFocus;
     (canTakeIt ? m_focusBefore.data() : parentWidget())->setFocus(Qt::PopupFocusReason);
 }
 
@@ -127,9 +132,14 @@ void Popup::keyPressEvent(QKeyEvent* event) {
 
 void Popup::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    painter.fillRect(event->rect(), faded(theme::kBackdrop, m_dimming.share()));
-    painter.setOpacity(m_coming.share());
-    m_shadow.paint(painter, m_card->geometry());
+    const QColor backdrop = faded(theme::kBackdrop, m_dimming.share());
+    for (const QRect& stripe : lowStripes(event->region())) {
+        painter.setClipRect(stripe);
+        painter.setOpacity(1.0);
+        painter.fillRect(stripe, backdrop);
+        painter.setOpacity(m_coming.share());
+        m_shadow.paint(painter, m_card->geometry());
+    }
 }
 
 void Popup::resizeEvent(QResizeEvent*) { m_card->move(cardCorner()); }

@@ -29,12 +29,16 @@ QRectF SoftShadow::reach(const QRectF& box) const {
 }
 
 void SoftShadow::paint(QPainter& painter, const QRectF& box) {
-    const double scale = painter.device()->devicePixelRatioF();
-    const QSizeF size = reach(box).size();
-    if (m_picture.deviceIndependentSize() != size || m_picture.devicePixelRatio() != scale) {
-        m_picture = draw(box.size(), scale);
+    painter.drawPixmap(reach(box).topLeft(), pictureFor(box.size(), painter.device()->devicePixelRatioF()));
+}
+
+const QPixmap& SoftShadow::pictureFor(const QSizeF& box, double scale) {
+    // Not the picture's own size, which is one of whole pixels.
+    if (m_picture.isNull() || m_box != box || m_picture.devicePixelRatio() != scale) {
+        m_picture = draw(box, scale);
+        m_box = box;
     }
-    painter.drawPixmap(reach(box).topLeft(), m_picture);
+    return m_picture;
 }
 
 QPixmap SoftShadow::draw(const QSizeF& box, double scale) const {

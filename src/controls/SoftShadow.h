@@ -16,6 +16,8 @@ public:
     void paint(QPainter& painter, const QRectF& box);
     /// Where it is seen.
     [[nodiscard]] QRectF reach(const QRectF& box) const;
+    /// For a box of that size.
+    [[nodiscard]] const QPixmap& pictureFor(const QSizeF& box, double scale);
     /// Gives its memory back.
     void forget() { m_picture = {}; }
 
@@ -26,6 +28,7 @@ private:
     double m_sigma;
     double m_drop;
     QPixmap m_picture;
+    QSizeF m_box;  // that the picture was made for
 };
 
 }  // namespace lumo

@@ -137,7 +137,10 @@ void KeyboardCanvas::composeFrame() {
 
 void KeyboardCanvas::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    m_picture.paint(painter, QPointF(), event->rect());
+    for (const QRect& part : event->region()) {  // what lies above may leave several
+        painter.setClipRect(part);
+        m_picture.paint(painter, QPointF(), part);
+    }
 }
 
 KeyboardCanvas::Key KeyboardCanvas::keyBelow(const QPointF& place) const { return keyAt(keys(), place.x(), place.y()); }

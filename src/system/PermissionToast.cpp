@@ -5,6 +5,7 @@
 #include "app/UIState.h"
 #include "controls/DropShadow.h"
 #include "controls/IconButton.h"
+#include "controls/LeavingFocus.h"
 #include "controls/Panel.h"
 #include "controls/PushButton.h"
 #include "controls/Symbol.h"
@@ -83,7 +84,10 @@ void PermissionToast::followAppearance() {
     m_opacity->setOpacity(share());
     m_shadow->setShare(share());
     place();
-    if (m_coming.isGone()) hide();
+    if (m_coming.isGone()) {
+        letGoOfFocus(*this);
+        hide();
+    }
     emit shareChanged();
 }
 

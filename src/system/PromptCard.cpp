@@ -19,12 +19,33 @@ constexpr int kTextToBox = 18;
 constexpr int kBoxToButtons = 20;
 constexpr int kButtonHeight = 36;
 constexpr int kButtonGap = 10;
+constexpr int kLineWidth = 1;
 constexpr int kMostLines = 4;
+
+/// All of the card but its rounded ends and its line, with the symbol. Known to Qt as opaque: an effect that moves
+/// behind has nothing of the card painted again.
+class CardGround final : public QWidget {
+public:
+    CardGround(PromptCard::Symbol symbol, QWidget* card) : QWidget(card), m_symbol(std::move(symbol)) {
+        setAttribute(Qt::WA_OpaquePaintEvent);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), theme::kPopup);
+        const double x = (width() - m_symbol.height) / 2.0;
+        m_symbol.paint(painter, QRectF(x, kPadding - y(), m_symbol.height, m_symbol.height));
+    }
+
+private:
+    PromptCard::Symbol m_symbol;
+};
 
 }  // namespace
 
 PromptCard::PromptCard(Symbol symbol, const Texts& texts, QWidget* box)
-    : m_symbol(std::move(symbol)),
+    : m_ground(new CardGround(symbol, this)),
       m_heading(new TextBlock(theme::kPopupTitleStyle, theme::kText, kMostLines, this)),
       m_text(new TextBlock(theme::kPopupTextStyle, theme::kTextPopup, kMostLines, this)),
       m_box(box),
@@ -35,11 +56,13 @@ PromptCard::PromptCard(Symbol symbol, const Texts& texts, QWidget* box)
     m_heading->centreLines();
     m_text->setText(texts.text);
     m_text->centreLines();
-    resize(kWidth, layOut());
+    resize(kWidth, layOut(symbol.height));
+    constexpr int kEnd = static_cast<int>(theme::kPopupRadius);
+    m_ground->setGeometry(rect().adjusted(kLineWidth, kEnd, -kLineWidth, -kEnd));
 }
 
-int PromptCard::layOut() {
-    int top = kPadding + m_symbol.height + kSymbolToHeading;
+int PromptCard::layOut(int symbolHeight) {
+    int top = kPadding + symbolHeight + kSymbolToHeading;
     const auto place = [&top](QWidget& widget, int height, int gapBelow) {
         widget.setGeometry(kPadding, top, kContentWidth, height);
         top += height + gapBelow;
@@ -56,7 +79,6 @@ int PromptCard::layOut() {
 void PromptCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintPanel(painter, rect(), theme::kPopupRadius, theme::kPopup, theme::kPopupLine);
-    m_symbol.paint(painter, QRectF((width() - m_symbol.height) / 2.0, kPadding, m_symbol.height, m_symbol.height));
 }
 
 }  // namespace lumo

@@ -41,9 +41,9 @@ protected:
 
 private:
     /// Returns the height that it takes.
-    int layOut();
+    int layOut(int symbolHeight);
 
-    Symbol m_symbol;
+    QWidget* m_ground;
     TextBlock* m_heading;
     TextBlock* m_text;
     QWidget* m_box;

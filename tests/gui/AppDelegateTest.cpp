@@ -8,6 +8,9 @@
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
+#include <memory>
+#include <string>
+#include <vector>
 
 #include "app/MainView.h"
 #include "support/LinkFixture.h"
@@ -57,6 +60,43 @@ TEST_F(Delegate, LaunchingBringsTheDeviceLinkToLife) {
     hid.plugKeyboard();
     time.settle();
     EXPECT_EQ(link().statusMessage.get(), "Connected & Authenticated");
+}
+
+/// Notes what is asked of a platform, in order.
+class NotingPlatform final : public Platform {
+public:
+    explicit NotingPlatform(Platform& noted) : m_noted(noted) {}
+    std::vector<std::string> asked;
+
+    MainQueue mainQueue() override { return m_noted.mainQueue(); }
+    std::unique_ptr<BlockingExecutor> makeIoQueue(std::string_view label) override {
+        asked.emplace_back("I/O queue");
+        return m_noted.makeIoQueue(label);
+    }
+    std::unique_ptr<HidManager> makeHidManager(IoQueue io) override {
+        asked.emplace_back("HID manager");
+        return m_noted.makeHidManager(io);
+    }
+    Bundle& bundle() override { return m_noted.bundle(); }
+    Desktop& desktop() override { return m_noted.desktop(); }
+    Preferences& preferences() override {
+        asked.emplace_back("preferences");
+        return m_noted.preferences();
+    }
+    Privacy& privacy() override { return m_noted.privacy(); }
+    void print(std::string_view line) override { m_noted.print(line); }
+
+private:
+    Platform& m_noted;
+};
+
+TEST(DelegateLaunch, TakesTheLinkBeforeThePermissions) {
+    test::TestPlatform platform;
+    NotingPlatform noting(platform);
+    SharedObjects objects(noting);
+    AppDelegate delegate;
+    delegate.applicationDidFinishLaunching();
+    EXPECT_EQ(noting.asked, (std::vector<std::string>{"I/O queue", "HID manager", "preferences"}));
 }
 
 TEST_F(Delegate, ClosingTheOnlyWindowQuitsTheApplication) {

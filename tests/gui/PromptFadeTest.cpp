@@ -159,6 +159,19 @@ TEST_F(PromptFade, AToastClosedByTheMouseLeavesNoRingAnywhere) {
     EXPECT_FALSE(only<FocusRing>().isVisible()) << focusedName().toStdString();
 }
 
+TEST_F(PromptFade, APageThatGoesWithAPopupLeavesNoRingAnywhere) {
+    showLaterLaunchAlone();
+    activate();
+    dismissRecheck();
+    motion.advance(kLong);
+    click("Raindrops");
+    raiseRecheck();
+    click("Dismiss to Settings");
+    motion.advance(kLong);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(only<FocusRing>().isVisible()) << focusedName().toStdString();
+}
+
 TEST_F(PromptFade, AToastClosedByTheKeyboardLeavesTheFocusInTheWindow) {
     showLaterLaunchAlone();
     activate();

@@ -45,9 +45,8 @@ TEST_F(FirstLaunch, TheFlagWrittenFalseByHandIsAFirstLaunch) {
     EXPECT_THAT(prompts(), ElementsAre(true, false, false));
 }
 
-TEST_F(FirstLaunch, TheWelcomeIsRaisedBeforeTheGrantsAreSampled) {
-    // Sampling is the first thing that a check does, and the prompt must not come after it.
-    bool wasShownBefore = false;
+TEST_F(FirstLaunch, TheFlagIsReadOnceAndBeforeTheGrantsAreSampled) {
+    bool wasReadBefore = false;
     class Watching final : public Privacy {
     public:
         explicit Watching(std::function<void()> sampled) : m_sampled(std::move(sampled)) {}
@@ -62,7 +61,7 @@ TEST_F(FirstLaunch, TheWelcomeIsRaisedBeforeTheGrantsAreSampled) {
         std::function<void()> m_sampled;
     };
     std::size_t flagReads = 0;
-    Watching privacy([&] { wasShownBefore = flagReads == 1; });
+    Watching privacy([&] { wasReadBefore = flagReads == 1; });
     class Counting final : public Preferences {
     public:
         explicit Counting(std::size_t& reads) : m_reads(reads) {}
@@ -74,7 +73,7 @@ TEST_F(FirstLaunch, TheWelcomeIsRaisedBeforeTheGrantsAreSampled) {
     };
     Counting preferences(flagReads);
     const auto made = PermissionManager::make(time.mainQueue(), privacy, platform.surroundings, preferences);
-    EXPECT_TRUE(wasShownBefore);
+    EXPECT_TRUE(wasReadBefore);
     EXPECT_EQ(flagReads, 1u);
 }
 

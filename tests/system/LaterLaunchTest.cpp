@@ -54,7 +54,7 @@ TEST_F(LaterLaunch, AGrantMadeInTheSettingsLowersBothWithinTwoSecondsByPolling) 
     EXPECT_THAT(prompts(), ElementsAre(false, false, false));
 }
 
-TEST_F(LaterLaunch, ThePopupIsRaisedBeforeTheToastAndLoweredAfterIt) {
+TEST_F(LaterLaunch, TheToastIsLoweredBeforeThePopup) {
     // An announcement comes before its write: each shows what the one before it stored.
     std::vector<std::vector<bool>> seen;
     grantBoth();
