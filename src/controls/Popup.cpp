@@ -47,9 +47,11 @@ bool isPointerEvent(QEvent::Type type) {
 
 }  // namespace
 
-Popup::Popup(const QString& heading, QWidget* card, PushControl& first, PushControl& second, QWidget* parent)
+Popup::Popup(const QString& heading, QWidget* card, QWidget& ground, PushControl& first, PushControl& second,
+             QWidget* parent)
     : QWidget(parent),
       m_card(card),
+      m_ground(ground),
       m_first(first),
       m_second(second),
       m_opacity(new QGraphicsOpacityEffect(card)),
@@ -100,7 +102,9 @@ void Popup::followAppearance() {
         m_shadow.forget();
         return hide();
     }
-    m_opacity->setEnabled(m_coming.share() < 1.0);
+    const bool isAllThere = m_coming.share() == 1.0;
+    m_opacity->setEnabled(!isAllThere);
+    m_ground.setAttribute(Qt::WA_OpaquePaintEvent, isAllThere);  // Qt would forget that the effect lets through
     m_opacity->setOpacity(m_coming.share());
     m_card->move(cardCorner());
     update();

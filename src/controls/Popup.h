@@ -19,9 +19,11 @@ class Popup final : public QWidget, public AccessibleSource {
     Q_OBJECT
 
 public:
-    /// `heading` is what assistive technology calls it. Owns the card, which holds the buttons and has its size. The
-    /// parent keeps the popup as large as itself.
-    Popup(const QString& heading, QWidget* card, PushControl& first, PushControl& second, QWidget* parent);
+    /// `heading` is what assistive technology calls it. Owns the card, which holds the buttons and has its size.
+    /// `ground` is the part of the card that lets nothing through once it is all there: behind it nothing is painted
+    /// then. The parent keeps the popup as large as itself.
+    Popup(const QString& heading, QWidget* card, QWidget& ground, PushControl& first, PushControl& second,
+          QWidget* parent);
 
     void setShown(bool isShown);
     [[nodiscard]] bool isShown() const { return m_coming.isShown(); }
@@ -44,6 +46,7 @@ private:
     [[nodiscard]] QPoint cardCorner() const;
 
     QWidget* m_card;
+    QWidget& m_ground;
     PushControl& m_first;
     PushControl& m_second;
     QGraphicsOpacityEffect* m_opacity;  // of the card, while it comes and goes

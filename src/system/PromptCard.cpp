@@ -22,13 +22,10 @@ constexpr int kButtonGap = 10;
 constexpr int kLineWidth = 1;
 constexpr int kMostLines = 4;
 
-/// All of the card but its rounded ends and its line, with the symbol. Known to Qt as opaque: an effect that moves
-/// behind has nothing of the card painted again.
+/// What the texts and buttons stand on, with the symbol.
 class CardGround final : public QWidget {
 public:
-    CardGround(PromptCard::Symbol symbol, QWidget* card) : QWidget(card), m_symbol(std::move(symbol)) {
-        setAttribute(Qt::WA_OpaquePaintEvent);
-    }
+    CardGround(PromptCard::Symbol symbol, QWidget* card) : QWidget(card), m_symbol(std::move(symbol)) {}
 
 protected:
     void paintEvent(QPaintEvent*) override {

@@ -33,6 +33,8 @@ public:
     /// Owns the box, which has its size already.
     PromptCard(Symbol symbol, const Texts& texts, QWidget* box);
 
+    /// All of it but its rounded ends and its line.
+    [[nodiscard]] QWidget& ground() const { return *m_ground; }
     [[nodiscard]] PushButton& first() const { return *m_first; }
     [[nodiscard]] PushButton& second() const { return *m_second; }
 

@@ -66,7 +66,7 @@ Popup* makeRecheckPopup(PermissionManager& permissions, UIState& state, QWidget*
         permissions.dismissRecheckPopup();
         state.currentTab.set(NavTab::settings);
     });
-    return new Popup("Permissions Setup Needed", card, card->first(), card->second(), parent);
+    return new Popup("Permissions Setup Needed", card, card->ground(), card->first(), card->second(), parent);
 }
 
 }  // namespace lumo

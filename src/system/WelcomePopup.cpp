@@ -69,7 +69,7 @@ Popup* makeWelcomePopup(PermissionManager& permissions, UIState& state, QWidget*
         permissions.completeFirstLaunch();
         state.currentTab.set(NavTab::settings);
     });
-    return new Popup("Welcome to Vexa Lumo 65", card, card->first(), card->second(), parent);
+    return new Popup("Welcome to Vexa Lumo 65", card, card->ground(), card->first(), card->second(), parent);
 }
 
 }  // namespace lumo

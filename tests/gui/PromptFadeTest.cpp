@@ -204,6 +204,19 @@ TEST_F(PromptFade, TheRecheckLiesAboveTheWelcomeAndTheFocusNeverStaysInOneThatIs
     EXPECT_TRUE(view->window()->focusWidget()->isVisible());
 }
 
+TEST_F(PromptFade, OnlyWhatIsAllThereLetsNothingThrough) {
+    showLaterLaunch();
+    const QWidget& ground = recheck().findChild<PromptCard*>()->ground();
+    EXPECT_FALSE(ground.testAttribute(Qt::WA_OpaquePaintEvent));
+    motion.advance(kMidway);
+    EXPECT_FALSE(ground.testAttribute(Qt::WA_OpaquePaintEvent));
+    motion.advance(kLong);
+    EXPECT_TRUE(ground.testAttribute(Qt::WA_OpaquePaintEvent));
+    dismissRecheck();
+    motion.advance(kMidway);
+    EXPECT_FALSE(ground.testAttribute(Qt::WA_OpaquePaintEvent));
+}
+
 TEST_F(PromptFade, UnderARestingPopupAnEffectPaintsNothingOfItsCard) {
     showFirstLaunch();
     motion.advance(kLong);
