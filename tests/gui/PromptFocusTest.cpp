@@ -1,11 +1,14 @@
 // The prompts by keyboard alone, and as assistive technology sees them.
 #include <gmock/gmock.h>
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QTest>
 
 #include "controls/Popup.h"
 #include "controls/PushControl.h"
 #include "gui/AccessibleTree.h"
+#include "gui/EventCount.h"
 #include "gui/PromptFixture.h"
 #include "keyboard/EffectRow.h"
 #include "system/PermissionToast.h"
@@ -104,6 +107,14 @@ TEST_F(PromptFocus, EscapeActsAsTheSecondButton) {
     EXPECT_THAT(platform.journal, testing::ElementsAre("set VexaLumoHasLaunchedBefore true"));
 }
 
+TEST_F(PromptFocus, EscapeThatWasHeldDownBeforePressesNothing) {
+    showFirstLaunch();
+    activate();
+    QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(&control("Grant Permissions"), &repeated);
+    EXPECT_TRUE(permissions().showFirstLaunchPopup.get());
+}
+
 TEST_F(PromptFocus, ReturnPressesTheFocusedButton) {
     showFirstLaunch();
     activate();
@@ -115,7 +126,9 @@ TEST_F(PromptFocus, ReturnPressesTheFocusedButton) {
 TEST_F(PromptFocus, NothingBehindHearsTheKeys) {
     showFirstLaunch();
     activate();
+    const test::EventCount behind(*view, QEvent::KeyPress);
     for (const Qt::Key each : {Qt::Key_Down, Qt::Key_Right, Qt::Key_A}) key(each);
+    EXPECT_EQ(behind.count(), 0);
     EXPECT_EQ(focusedName(), "Grant Permissions");
     EXPECT_TRUE(welcome().isShown());
 }

@@ -40,6 +40,17 @@ TEST_F(PermissionRequest, OfAnAuthorizedMicrophoneIsAnsweredInALaterTurnAfterACh
     EXPECT_THAT(journal, IsEmpty());
 }
 
+TEST_F(PermissionRequest, OfTheMicrophonePublishesTheAnswerBeforeTheCheckThatFollows) {
+    grants.audio = AudioAuthorization::authorized;
+    manager().requestMicrophoneAccess();
+    std::optional<int> sampledAtFirstWrite;
+    const auto watching = manager().observe([&] {
+        if (!sampledAtFirstWrite) sampledAtFirstWrite = grants.timesSampled;
+    });
+    turn();
+    EXPECT_EQ(sampledAtFirstWrite, 1);  // for the request itself
+}
+
 TEST_F(PermissionRequest, OfARefusedMicrophoneOpensItsPaneAndIsAnsweredNoAtOnce) {
     for (const int status : {1, 2, 4}) {
         journal.clear();
