@@ -41,7 +41,7 @@ private:
 
 }  // namespace
 
-PromptCard::PromptCard(Symbol symbol, const Texts& texts, QWidget* box)
+PromptCard::PromptCard(const Symbol& symbol, const Texts& texts, QWidget* box)
     : m_ground(new CardGround(symbol, this)),
       m_heading(new TextBlock(theme::kPopupTitleStyle, theme::kText, kMostLines, this)),
       m_text(new TextBlock(theme::kPopupTextStyle, theme::kTextPopup, kMostLines, this)),

@@ -31,7 +31,7 @@ public:
     };
 
     /// Owns the box, which has its size already.
-    PromptCard(Symbol symbol, const Texts& texts, QWidget* box);
+    PromptCard(const Symbol& symbol, const Texts& texts, QWidget* box);
 
     /// All of it but its rounded ends and its line.
     [[nodiscard]] QWidget& ground() const { return *m_ground; }
