@@ -66,10 +66,14 @@ TEST_F(KeyRemap, ReadingCompletesOnTheMainQueueAndWithoutAKeyboardOnTheIoQueue) 
 
     hid.plugKeyboard();
     time.settle();
-    eager.readKeyRemapTable([&](const Table&) { ++completions; });
-    EXPECT_EQ(completions, 1);
-    time.settle();
-    EXPECT_EQ(completions, 2);
+    for (const auto* const text : {"get 83 refuse skip 1", "set 83 refuse skip 2"}) fault(text);
+    int expected = 1;
+    for (const auto* const outcome : {"read", "not answered", "refused"}) {
+        eager.readKeyRemapTable([&](const Table&) { ++completions; });
+        EXPECT_EQ(completions, expected++) << outcome;
+        time.settle();
+        EXPECT_EQ(completions, expected) << outcome;
+    }
 }
 
 TEST_F(KeyRemap, ReadingWithoutAKeyboardGivesTheLastTable) {
@@ -81,10 +85,14 @@ TEST_F(KeyRemap, ReadingWithoutAKeyboardGivesTheLastTable) {
     EXPECT_EQ(read(), table);
 }
 
+/// The keyboard would still answer the request before.
 TEST_F(KeyRemap, ARefusedRequestReadsNothing) {
     connect();
+    ASSERT_TRUE(read());
     fault("set 83 refuse");
+    const auto before = time.now();
     EXPECT_EQ(read(), Table());
+    EXPECT_EQ(time.now(), before);
 }
 
 TEST_F(KeyRemap, AFailedReadLeavesTheKnownTable) {
@@ -229,6 +237,17 @@ TEST_F(KeyRemap, AChangeWithoutAKeyboardIsSilent) {
     EXPECT_EQ(read(), Table());
 }
 
+TEST_F(KeyRemap, AChangeOfAKnownTableWithoutAKeyboardIsSilentToo) {
+    connect();
+    const auto table = read();
+    hid.unplugAll();
+    time.settle();
+    recordStatuses();
+    remap(5, {1, 2, 3, 4});
+    EXPECT_THAT(statuses(), IsEmpty());
+    EXPECT_EQ(read(), table);
+}
+
 TEST_F(KeyRemap, AWholeTableIsFilledUpAndGetsOurHeader) {
     connect();
     link().setKeyRemapTable(Bytes(100, 0xAA));
@@ -275,12 +294,12 @@ TEST(KeyTable, Of600BytesIsKeptAndWrittenBackAtItsOwnLength) {
     Bytes answer(600, 0x55);
     answer[1] = 0x83;
     ASSERT_TRUE(isKeyTable(answer));
-    const auto write = keyTableWith(answer, 147, {1, 2, 3, 4});
-    ASSERT_TRUE(write);
-    EXPECT_EQ(write->size(), 600U);
-    EXPECT_EQ(write->at(1), 0x03);
-    EXPECT_EQ(write->at(596), 1);
-    EXPECT_EQ(write->at(599), 4);
+    Bytes expected(600, 0x55);  // its own header, too
+    expected[1] = 0x03;
+    expected[6] = 0x00;
+    expected[7] = 0x02;
+    std::ranges::copy(Bytes{1, 2, 3, 4}, expected.begin() + 596);
+    EXPECT_EQ(keyTableWith(answer, 147, {1, 2, 3, 4}), Table(expected));
     EXPECT_FALSE(keyTableWith(answer, 148, {1, 2, 3, 4}));
 }
 
