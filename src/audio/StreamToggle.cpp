@@ -31,8 +31,7 @@ StreamToggle::StreamToggle(QWidget* parent) : PushControl("STREAM: OFF", QAccess
 void StreamToggle::setStreaming(bool isStreaming) {
     if (isStreaming == isSelected()) return;
     setSelected(isStreaming);
-    setText(isStreaming ? "STREAMING: ON" : "STREAM: OFF");
-    setAccessibleName(text());
+    rename(isStreaming ? "STREAMING: ON" : "STREAM: OFF");
 }
 
 RingShape StreamToggle::ringShape() const { return ringAround(rect(), theme::kButtonRadius); }

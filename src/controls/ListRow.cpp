@@ -13,11 +13,7 @@ ListRow::ListRow(const QString& name, QAccessible::Role role, const Looks& looks
       m_lettering(looks.style),
       m_selectedLettering(looks.selectedStyle) {}
 
-void ListRow::setName(const QString& name) {
-    if (name == text()) return;
-    setText(name);
-    setAccessibleName(name);
-}
+void ListRow::setName(const QString& name) { rename(name); }
 
 QSize ListRow::sizeHint() const {
     return {m_nameX + static_cast<int>(std::ceil(m_selectedLettering.widthOf(text()))) + m_padding, height()};

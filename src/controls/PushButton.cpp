@@ -96,11 +96,7 @@ void PushButton::setPicture(const QImage& picture) {
     update();
 }
 
-void PushButton::setLabel(const QString& text) {
-    if (text == this->text()) return;
-    setText(text);
-    setAccessibleName(text);
-}
+void PushButton::setLabel(const QString& text) { rename(text); }
 
 int PushButton::widthWith(int padding) const {
     return static_cast<int>(std::lround(symbolRoom() + m_lettering.widthOf(text()))) + 2 * padding;

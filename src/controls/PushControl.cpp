@@ -46,8 +46,7 @@ void tellOfSelection(PushControl& control, QAccessible::Role role) {
 
 PushControl::PushControl(const QString& text, QAccessible::Role role, QWidget* parent)
     : QAbstractButton(parent), m_role(role) {
-    setText(text);
-    setAccessibleName(text);
+    rename(text);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
     connect(this, &QAbstractButton::pressed, this, [this] { m_press.to(1.0, 0); });
@@ -64,6 +63,13 @@ void PushControl::setSelected(bool selected) {
 
 void PushControl::handFocusTo(PushControl& other) {
     if (hasFocus()) other.setFocus(showsRing() ? Qt::OtherFocusReason : Qt::MouseFocusReason);
+}
+
+void PushControl::rename(const QString& text) {
+    if (text == this->text()) return;
+    setText(text);
+    setShortcut({});  // that Qt makes of an ampersand
+    setAccessibleName(text);
 }
 
 std::optional<RingShape> PushControl::ring() const {

@@ -16,7 +16,7 @@ class PushControl : public QAbstractButton, public AccessibleSource, public Ring
     Q_OBJECT
 
 public:
-    /// The text is the accessible name, too.
+    /// The text is the accessible name, too. An ampersand in it stands for itself.
     PushControl(const QString& text, QAccessible::Role role, QWidget* parent);
 
     void setSelected(bool selected);
@@ -32,6 +32,8 @@ public:
     QAccessibleInterface* makeAccessible() final;
 
 protected:
+    /// Gives it another text.
+    void rename(const QString& text);
     /// The ring, were it shown.
     [[nodiscard]] virtual RingShape ringShape() const = 0;
     /// Hover help for a text that is elided; empty where there is nothing to say.

@@ -34,11 +34,7 @@ LoopRadio::LoopRadio(const QString& title, std::function<void()> action, QWidget
     connect(this, &QAbstractButton::clicked, this, std::move(action));
 }
 
-void LoopRadio::setTitle(const QString& title) {
-    if (title == text()) return;
-    setText(title);
-    setAccessibleName(title);
-}
+void LoopRadio::setTitle(const QString& title) { rename(title); }
 
 QSize LoopRadio::sizeHint() const {
     return {static_cast<int>(std::ceil(kTitleX + m_lettering.widthOf(text()))), theme::kRadioStyle.linePx};
