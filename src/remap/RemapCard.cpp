@@ -32,7 +32,9 @@ RingShape RemapCard::ringShape() const { return ringAround(rect(), theme::kBoxRa
 
 QString RemapCard::shownName() const { return m_lettering.elided(text(), width() - 2.0 * kLeastPadding); }
 
-QString RemapCard::toolTipText() const { return shownName() == typeset(text()) ? QString() : text(); }
+bool RemapCard::isElided() const { return shownName() != typeset(text()); }
+
+QString RemapCard::toolTipText() const { return isElided() ? text() : QString(); }
 
 void RemapCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);

@@ -16,6 +16,8 @@ class RemapCard final : public PushControl {
 public:
     RemapCard(const RemapItem& item, QWidget* parent);
 
+    [[nodiscard]] bool isElided() const;
+
 protected:
     [[nodiscard]] RingShape ringShape() const override;
     [[nodiscard]] QString toolTipText() const override;

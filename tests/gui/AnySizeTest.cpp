@@ -26,10 +26,12 @@ private:
 };
 
 class AnyPage : public AnySize, public testing::WithParamInterface<NavTab> {};
-INSTANTIATE_TEST_SUITE_P(Of, AnyPage, testing::Values(NavTab::lighting, NavTab::music, NavTab::settings));
+INSTANTIATE_TEST_SUITE_P(Of, AnyPage,
+                         testing::Values(NavTab::keyAssign, NavTab::lighting, NavTab::music, NavTab::settings));
 
 TEST_P(AnyPage, IsPaintedWithoutAWord) {
     state().currentTab.set(GetParam());
+    keyboard().selectPresetGroup("WASD");
     show();
     for (const QSize size : {QSize(1, 1), QSize(0, 0), QSize(40, 700), QSize(960, 40), QSize(60, 460), QSize(500, 450),
                              QSize(700, 520), QSize(300, 8000), QSize(8000, 300), QSize(960, 760)}) {

@@ -77,6 +77,26 @@ TEST_F(Refresh, AnnouncementsThatChangeNothingPaintNothing) {
     EXPECT_EQ(watch.painted(), statusAlone());
 }
 
+TEST_F(Refresh, OnTheRemapPageAnnouncementsThatChangeNothingPaintNothing) {
+    state().currentTab.set(NavTab::keyAssign);
+    keyboard().selectPresetGroup("WASD");
+    keyboard().bindKey("K18", {0x02, 0x00, 0x00, 0xE2}, "Mute");
+    ASSERT_TRUE(QTest::qWaitFor(
+        [this] {
+            paintStatus();
+            return watch.painted() == statusAlone();
+        },
+        30000));
+    for (int i = 0; i < 5; ++i) {
+        state().remapCategory.set("Multimedia");
+        keyboard().keys.set(keyboard().keys.get());
+        keyboard().selectPresetGroup("WASD");
+        time.settle();
+    }
+    paintStatus();
+    EXPECT_EQ(watch.painted(), statusAlone());
+}
+
 TEST_F(Refresh, AColorRepaintsOnlyTheRowsThatShowIt) {
     watch.forget();
     state().selectedColor.set(Color{1.0, 0.0, 0.0});

@@ -80,6 +80,13 @@ TEST_F(RemapKeys, TheArrowsGoThroughTheCategoriesAndSpaceChoosesOne) {
     EXPECT_EQ(focused(), "Left Click");
 }
 
+TEST_F(RemapKeys, TheAmpersandOfATitleIsNoShortcut) {
+    only<KeyboardCanvas>().setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Space, Qt::AltModifier);
+    EXPECT_FALSE(control("Letters & Numbers").isDown());
+    EXPECT_EQ(state().remapCategory.get(), "Multimedia");
+}
+
 TEST_F(RemapKeys, TheArrowsGoThroughTheLettersAsTheyStand) {
     click("Letters & Numbers");
     control("A").setFocus(Qt::TabFocusReason);
@@ -130,6 +137,17 @@ TEST_F(RemapKeys, ABoundKeySaysSoUntilItIsReset) {
     EXPECT_EQ(nameOf(*keys.child(31)), "A, bound to Mute");
     click("Reset to Defaults");
     EXPECT_EQ(nameOf(*keys.child(31)), "A");
+}
+
+TEST_F(RemapKeys, TheHeadingsOfLettersAndDigitsAreShownWithThem) {
+    for (const char* const heading : {"LETTERS (A-Z)", "NUMBERS (0-9)"}) {
+        const QAccessibleInterface* const leaf = accessible(only<KeyRemapView>(), QAccessible::StaticText, heading);
+        ASSERT_NE(leaf, nullptr) << heading;
+        EXPECT_TRUE(leaf->state().invisible) << heading;
+        click("Letters & Numbers");
+        EXPECT_FALSE(leaf->state().invisible) << heading;
+        click("Multimedia");
+    }
 }
 
 TEST_F(RemapKeys, TheTextsOfTheTargetAreLeaves) {

@@ -1,9 +1,13 @@
 // Where things stand on the remap page, and what they look like there.
 #include <gmock/gmock.h>
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QTemporaryDir>
+#include <QToolTip>
 
 #include "controls/Card.h"
+#include "controls/ListRow.h"
 #include "controls/PushButton.h"
 #include "controls/ScrollBar.h"
 #include "gui/CurrentFolder.h"
@@ -12,6 +16,7 @@
 #include "remap/ActionPage.h"
 #include "remap/RemapCard.h"
 #include "remap/RemapCatalog.h"
+#include "remap/RemapCategory.h"
 
 namespace lumo {
 namespace {
@@ -22,6 +27,14 @@ protected:
     void choose(const std::string& category) {
         state().remapCategory.set(category);
         time.settle();
+    }
+    template <typename Control>
+    std::vector<Control*> shownOf() {
+        std::vector<Control*> shown;
+        for (Control* const each : only<KeyRemapView>().findChildren<Control*>()) {
+            if (each->isVisible()) shown.push_back(each);
+        }
+        return shown;
     }
     std::vector<TextLine*> panelLines() {
         const auto found = only<TargetPanel>().findChildren<TextLine*>();
@@ -142,8 +155,40 @@ TEST_F(RemapLayout, NoTextIsElidedInTheSmallestWindow) {
             EXPECT_FALSE(line->isVisible() && line->isElided()) << line->text().toStdString();
         }
     }
-    for (const PushButton* const button : only<KeyRemapView>().findChildren<PushButton*>()) {
-        EXPECT_LE(button->widthWith(6), button->width()) << button->text().toStdString();
+}
+
+TEST_F(RemapLayout, NoNameIsElidedInTheSmallestWindow) {
+    openPage({900, 680});
+    for (const RemapCategory& category : kRemapCategories) {
+        choose(std::string(category.key));
+        for (const PushButton* const button : shownOf<PushButton>()) {
+            EXPECT_LE(button->widthWith(6), button->width()) << button->text().toStdString();
+        }
+        for (const ListRow* const tab : shownOf<ListRow>()) {
+            EXPECT_LE(tab->sizeHint().width(), tab->width()) << tab->text().toStdString();
+        }
+        for (const RemapCard* const card : shownOf<RemapCard>()) {
+            EXPECT_FALSE(card->isElided()) << card->text().toStdString();
+        }
+    }
+}
+
+TEST_F(RemapLayout, ThePromptIsNotElidedInTheSmallestWindow) {
+    openPage({900, 680});
+    ASSERT_TRUE(panelLines().front()->isVisible());
+    EXPECT_FALSE(panelLines().front()->isElided());
+}
+
+TEST_F(RemapLayout, OnlyTheButtonThatSavesHasASymbol) {
+    openPage();
+    PushButton save("Save Key Matrix", look::kPrimary, &only<KeyRemapView>());
+    save.setSymbol("arrow.down.doc.fill");
+    PushButton reset("Reset to Defaults", look::kPlain, &only<KeyRemapView>());
+    for (PushButton* const expected : {&save, &reset}) {
+        PushControl& shown = control(expected->text());  // the page's own, which came first
+        ASSERT_NE(&shown, expected);
+        expected->resize(shown.size());
+        EXPECT_EQ(shown.grab().toImage(), expected->grab().toImage()) << expected->text().toStdString();
     }
 }
 
@@ -178,6 +223,23 @@ TEST_F(RemapLayout, TheMiniatureLooksAsTheKeyOnTheKeyboardDoes) {
         EXPECT_NEAR(cap.green(), onKeyboard.green(), 1) << y;
         EXPECT_NEAR(cap.blue(), onKeyboard.blue(), 1) << y;
     }
+}
+
+TEST(RemapCardName, ThatDoesNotFitIsElidedAndToldAsHoverHelp) {
+    RemapCard card(remapItems(kSystemActions).at(6), nullptr);
+    card.show();
+    const auto askForHelp = [&card](int width) {
+        card.resize(width, 88);
+        QHelpEvent event(QEvent::ToolTip, QPoint(2, 2), card.mapToGlobal(QPoint(2, 2)));
+        QApplication::sendEvent(&card, &event);
+    };
+    askForHelp(300);
+    EXPECT_FALSE(card.isElided());
+    EXPECT_FALSE(QToolTip::text().contains("Show Desktop"));
+    askForHelp(90);
+    EXPECT_TRUE(card.isElided());
+    EXPECT_TRUE(QToolTip::text().contains("Show Desktop (Win+D)"));
+    QToolTip::hideText();
 }
 
 class RemapCardLooks : public test::LinkFixture {
