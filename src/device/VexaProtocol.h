@@ -89,7 +89,8 @@ public:
     using KeyTableCompletion = std::function<void(const std::optional<std::vector<std::uint8_t>>& table)>;
 
     /// Reads the key table: the keyboard's answer of 512 to 520 bytes, or none when it fails. Completes on the main
-    /// queue; without a keyboard on the I/O queue, with the table last read or written.
+    /// queue; without a keyboard on the I/O queue, with the known table: the last one read, or written by
+    /// `setKeyRemap`.
     void readKeyRemapTable(KeyTableCompletion completion);
 
     /// Gives one place of the key matrix a code of exactly four bytes; any other count is ignored. Reads the table
@@ -99,7 +100,8 @@ public:
     /// The same with the four bytes in one number, most significant first.
     void setKeyRemap(std::int64_t matrixPos, std::uint32_t hidCode);
 
-    /// Writes a whole table under our own header; shorter than 520 bytes, it is filled up with zeros.
+    /// Writes a whole table under our own header; shorter than 520 bytes, it is filled up with zeros. The known table
+    /// stays as it is.
     void setKeyRemapTable(std::vector<std::uint8_t> keyMatrixData);
 
     /// Any thread. The steps as the firmware keeps a macro; those that find no room are left out. Sends nothing.
@@ -118,7 +120,7 @@ private:
     std::function<PerKeyColors&()> m_perKeyColors;
     Print m_print;
     HeldDevice m_device;
-    std::optional<std::vector<std::uint8_t>> m_cachedKeyMatrix;  // I/O queue; the table last read or written
+    std::optional<std::vector<std::uint8_t>> m_cachedKeyMatrix;  // I/O queue; the known key table
 };
 
 }  // namespace lumo
