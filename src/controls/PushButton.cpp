@@ -92,6 +92,7 @@ void PushButton::setSymbol(const QString& name, double size) {
 }
 
 void PushButton::setPicture(const QImage& picture) {
+    if (picture.cacheKey() == m_picture.cacheKey()) return;
     m_picture = picture;
     update();
 }

@@ -16,10 +16,14 @@ constexpr double kGap = 3.0;
 }  // namespace
 
 TimelineHeading::TimelineHeading(QWidget* parent)
-    : QWidget(parent), m_headingLettering(theme::kSectionStyle), m_nameLettering(theme::kMacroNameStyle) {}
+    : QWidget(parent), m_headingLettering(theme::kSectionStyle), m_nameLettering(theme::kMacroNameStyle) {
+    setAccessibleName(kHeading);
+}
 
 void TimelineHeading::setMacroName(std::string_view name) {
-    m_name = plainText(name);
+    const QString shown = plainText(name);
+    if (shown == m_name) return;
+    m_name = shown;
     setAccessibleName(QString("%1 %2").arg(kHeading, m_name));
     update();
 }

@@ -135,6 +135,25 @@ TEST_F(Refresh, TheSelectionFadesInUntilItsOutlineHasItsFullColor) {
     EXPECT_TRUE(QTest::qWaitFor(isFull, 30000)) << outline().name().toStdString();
 }
 
+class MacroRefresh : public Refresh {
+protected:
+    void SetUp() override {
+        state().currentTab.set(NavTab::macro);
+        Refresh::SetUp();
+    }
+};
+
+TEST_F(MacroRefresh, AnnouncementsThatChangeNothingPaintNothing) {
+    state().macroName.set(state().macroName.get());
+    state().macroList.set(state().macroList.get());
+    state().macroEvents.set(state().macroEvents.get());
+    state().isRecording.set(false);
+    state().macroLoopMode.set(0);
+    state().compiledMacroHex.set("");
+    paintStatus();
+    EXPECT_EQ(watch.painted(), statusAlone());
+}
+
 TEST_F(Refresh, AViewThatIsGoneIsNotRefreshed) {
     link().statusMessage.set("one");
     view.reset();
