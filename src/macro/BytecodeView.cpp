@@ -18,9 +18,11 @@ constexpr double kRadius = theme::kSwatchRadius;
 bool isSpace(QChar letter) { return letter == ' ' || letter == '\n'; }
 
 /// Bytes other than zero are what the macro says; places and zeros are not.
-QColor colorOf(const QString& word) {
+QColor colorAtRest(const QString& word) {
     return word.endsWith(':') || word == "00" ? theme::kTextHexZero : theme::kAccentPale;
 }
+
+QColor colorSelected(const QString&) { return theme::kTextRowSelected; }
 
 }  // namespace
 
@@ -76,7 +78,9 @@ int BytecodeView::positionAt(const QPointF& place) const {
 }
 
 void BytecodeView::select(int anchor, int head) {
-    m_selection = {anchor, std::clamp(head, 0, static_cast<int>(m_text.size()))};
+    const Span selection{anchor, std::clamp(head, 0, static_cast<int>(m_text.size()))};
+    if (selection == m_selection) return;
+    m_selection = selection;
     update();
 }
 
@@ -108,7 +112,8 @@ void BytecodeView::mousePressEvent(QMouseEvent* event) {
 }
 
 void BytecodeView::mouseMoveEvent(QMouseEvent* event) {
-    if (event->buttons() & Qt::LeftButton) select(m_selection.anchor, positionAt(event->position()));
+    if (m_text.isEmpty() || !(event->buttons() & Qt::LeftButton)) return event->ignore();
+    select(m_selection.anchor, positionAt(event->position()));
 }
 
 void BytecodeView::mouseReleaseEvent(QMouseEvent*) {
@@ -129,31 +134,36 @@ void BytecodeView::mouseDoubleClickEvent(QMouseEvent* event) {
 void BytecodeView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintPanel(painter, rect(), kRadius, theme::kInset, theme::kRowLine);
-    paintSelection(painter);
-    for (int i = 0; i < m_lines.size(); ++i) paintLine(painter, m_lines[i], i);
-}
-
-void BytecodeView::paintSelection(QPainter& painter) const {
-    for (int i = 0; i < m_lines.size(); ++i) {
-        const int lineBegin = i * lineLength();
-        const int begin = std::clamp(m_selection.begin() - lineBegin, 0, lineLength() - 1);
-        const int end = std::clamp(m_selection.end() - lineBegin, 0, lineLength() - 1);
-        const QPointF corner = textOrigin() + QPointF(begin * m_letterWidth, i * m_lineHeight);
-        painter.fillRect(QRectF(corner, QSizeF((end - begin) * m_letterWidth, m_lineHeight)), theme::kAccent);
+    for (int line = 0; line < m_lines.size(); ++line) {
+        paintLine(painter, line, colorAtRest);
+        paintSelection(painter, line);
     }
 }
 
-void BytecodeView::paintLine(QPainter& painter, const QString& line, int index) const {
-    const QPointF corner = textOrigin() + QPointF(0.0, index * m_lineHeight);
+void BytecodeView::paintLine(QPainter& painter, int line, Coloring colorOf) const {
+    const QPointF corner = textOrigin() + QPointF(0.0, line * m_lineHeight);
     int column = 0;
-    for (const QString& word : line.split(' ')) {
-        const int at = index * lineLength() + column;
-        const bool isSelected = at >= m_selection.begin() && at < m_selection.end();
-        painter.setPen(isSelected ? theme::kTextRowSelected : colorOf(word));
+    for (const QString& word : m_lines[line].split(' ')) {
+        painter.setPen(colorOf(word));
         m_lettering.paint(painter, QRectF(corner + QPointF(column * m_letterWidth, 0.0), QSizeF(width(), m_lineHeight)),
                           word);
         column += static_cast<int>(word.size()) + 1;
     }
+}
+
+/// Over the line as it is painted at rest: a selection may begin and end inside a byte.
+void BytecodeView::paintSelection(QPainter& painter, int line) const {
+    const int lineBegin = line * lineLength();
+    const int begin = std::clamp(m_selection.begin() - lineBegin, 0, lineLength() - 1);
+    const int end = std::clamp(m_selection.end() - lineBegin, 0, lineLength() - 1);
+    if (begin == end) return;
+    const QPointF corner = textOrigin() + QPointF(begin * m_letterWidth, line * m_lineHeight);
+    const QRectF area(corner, QSizeF((end - begin) * m_letterWidth, m_lineHeight));
+    painter.save();
+    painter.setClipRect(area);
+    painter.fillRect(area, theme::kAccent);
+    paintLine(painter, line, colorSelected);
+    painter.restore();
 }
 
 }  // namespace lumo

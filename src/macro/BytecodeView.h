@@ -1,6 +1,7 @@
 // The byte code as text that can be selected and copied.
 #pragma once
 
+#include <QColor>
 #include <QStringList>
 #include <QWidget>
 #include <algorithm>
@@ -44,15 +45,17 @@ private:
         int head = 0;
         [[nodiscard]] int begin() const { return std::min(anchor, head); }
         [[nodiscard]] int end() const { return std::max(anchor, head); }
+        bool operator==(const Span&) const = default;
     };
+    using Coloring = QColor (*)(const QString& word);
 
     [[nodiscard]] int lineLength() const;
     [[nodiscard]] QPointF textOrigin() const;
     [[nodiscard]] int positionAt(const QPointF& place) const;
     void select(int anchor, int head);
     void copy() const;
-    void paintSelection(QPainter& painter) const;
-    void paintLine(QPainter& painter, const QString& line, int index) const;
+    void paintLine(QPainter& painter, int line, Coloring colorOf) const;
+    void paintSelection(QPainter& painter, int line) const;
 
     Lettering m_lettering;
     double m_letterWidth;

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 
+#include "gui/EventCount.h"
 #include "gui/MacroFixture.h"
 
 namespace lumo {
@@ -42,8 +43,8 @@ protected:
     void key(const QKeySequence& sequence) { QTest::keySequence(&bytecode(), sequence); }
     static QString copied() { return QApplication::clipboard()->text(); }
     /// The brightest letter pixel of that cell.
-    QColor inkOf(int line, int column) {
-        const QImage picture = bytecode().grab(QRect(place(line, column) - QPoint(0, 8), QSize(12, 17))).toImage();
+    QColor inkOf(int line, int column, int width = 12) {
+        const QImage picture = bytecode().grab(QRect(place(line, column) - QPoint(0, 8), QSize(width, 17))).toImage();
         QColor brightest = Qt::black;
         for (int y = 0; y < picture.height(); ++y) {
             for (int x = 0; x < picture.width(); ++x) {
@@ -136,12 +137,39 @@ TEST_F(Bytecode, WhatIsSelectedLiesOnTheAccent) {
     EXPECT_EQ(picture.pixelColor(place(2, 25) - QPoint(0, 7)), theme::kAccent);
 }
 
+TEST_F(Bytecode, OnlyTheLettersThatAreSelectedAreWhite) {
+    drag(place(0, 11), place(0, 14));  // of "99 57": the second 9, the space, the 5
+    ASSERT_EQ(bytecode().selectedText(), "9 5");
+    const auto white = [this](int column) { return inkOf(0, column, 5).green() > 0xE4; };
+    EXPECT_FALSE(white(10));
+    EXPECT_TRUE(white(11));
+    EXPECT_TRUE(white(13));
+    EXPECT_FALSE(white(14));
+}
+
 TEST_F(Bytecode, AnEmptyTextIsNoStopForTab) {
     state().compiledMacroHex.set("");
     settle();
     EXPECT_EQ(bytecode().focusPolicy(), Qt::NoFocus);
     QTest::mouseClick(&bytecode(), Qt::LeftButton, {}, {50, 50});
     EXPECT_EQ(bytecode().selectedText(), "");
+    drag({50, 50}, {90, 60});
+    EXPECT_EQ(bytecode().selectedText(), "");
+}
+
+/// Nothing was ever compiled.
+class EmptyBytecode : public test::MacroFixture {};
+
+TEST_F(EmptyBytecode, ADragOverItSelectsNothingAndPaintsNothing) {
+    showMacros();
+    QTest::qWait(0);
+    const test::EventCount paints(bytecode(), QEvent::Paint);
+    QTest::mousePress(&bytecode(), Qt::LeftButton, {}, {50, 50});
+    QTest::mouseMove(&bytecode(), {90, 60});
+    QTest::mouseRelease(&bytecode(), Qt::LeftButton, {}, {90, 60});
+    QTest::qWait(50);
+    EXPECT_EQ(bytecode().selectedText(), "");
+    EXPECT_EQ(paints.count(), 0);
 }
 
 }  // namespace
