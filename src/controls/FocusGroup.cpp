@@ -6,11 +6,8 @@
 #include "controls/PushControl.h"
 
 namespace lumo {
-namespace {
 
 bool isPlain(const QKeyEvent& event) { return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier; }
-
-}  // namespace
 
 FocusGroup::FocusGroup(Steps steps, QWidget* parent) : QObject(parent), m_steps(steps) {}
 

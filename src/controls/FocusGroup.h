@@ -4,6 +4,8 @@
 #include <QObject>
 #include <vector>
 
+class QKeyEvent;
+
 namespace lumo {
 
 class PushControl;
@@ -42,5 +44,8 @@ private:
     Steps m_steps;
     std::vector<PushControl*> m_controls;
 };
+
+/// Whether a key is pressed by itself: only then is it one of those that move inside a list.
+[[nodiscard]] bool isPlain(const QKeyEvent& event);
 
 }  // namespace lumo

@@ -1,5 +1,6 @@
 #include "macro/AccessibleSteps.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "macro/StepList.h"
@@ -163,10 +164,30 @@ int AccessibleSteps::indexOfChild(const QAccessibleInterface* wanted) const {
     return -1;
 }
 
-void tellOfSteps(StepList& list, std::size_t countBefore) {
-    if (!QAccessible::isActive() || countBefore == list.steps().size()) return;
-    QAccessibleEvent event(&list, QAccessible::ObjectReorder);
-    QAccessible::updateAccessibility(&event);
+std::vector<QAccessibleInterface*> AccessibleSteps::changedSince(const std::vector<MacroEvent>& before) const {
+    std::vector<QAccessibleInterface*> changed;
+    for (const auto& [index, id] : m_steps) {
+        const auto at = static_cast<std::size_t>(index);
+        if (at >= std::min(before.size(), m_list.steps().size())) break;
+        for (const StepPart part : kStepParts) {
+            if (stepText(part, at, before[at]) == stepText(part, at, m_list.steps()[at])) continue;
+            changed.push_back(child(index)->child(static_cast<int>(part)));
+        }
+    }
+    return changed;
+}
+
+void tellOfSteps(StepList& list, const std::vector<MacroEvent>& before) {
+    if (!QAccessible::isActive()) return;
+    if (before.size() != list.steps().size()) {
+        QAccessibleEvent event(&list, QAccessible::ObjectReorder);
+        QAccessible::updateAccessibility(&event);
+    }
+    const auto* const steps = static_cast<AccessibleSteps*>(QAccessible::queryAccessibleInterface(&list));
+    for (QAccessibleInterface* const part : steps->changedSince(before)) {
+        QAccessibleEvent event(part, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void tellOfFocus(StepList& list, std::size_t index) {

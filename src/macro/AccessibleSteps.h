@@ -4,6 +4,9 @@
 #include <QAccessibleWidget>
 #include <cstddef>
 #include <map>
+#include <vector>
+
+#include "macro/MacroEvent.h"
 
 namespace lumo {
 
@@ -23,13 +26,16 @@ public:
     [[nodiscard]] QAccessibleInterface* focusChild() const override;
     [[nodiscard]] int indexOfChild(const QAccessibleInterface* wanted) const override;
 
+    /// The parts that read otherwise than before, of the steps that somebody has asked for.
+    [[nodiscard]] std::vector<QAccessibleInterface*> changedSince(const std::vector<MacroEvent>& before) const;
+
 private:
     StepList& m_list;
     mutable std::map<int, QAccessible::Id> m_steps;
 };
 
-/// There are other steps; before, there were so many.
-void tellOfSteps(StepList& list, std::size_t countBefore);
+/// There are other steps than before.
+void tellOfSteps(StepList& list, const std::vector<MacroEvent>& before);
 /// The keyboard works on that step's button.
 void tellOfFocus(StepList& list, std::size_t index);
 

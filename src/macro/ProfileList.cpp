@@ -51,7 +51,7 @@ void ProfileList::dropLastRow() {
     ListRow* const row = m_rows.back();
     m_rows.pop_back();
     m_group->remove(*row);
-    if (row->hasFocus()) m_rows.back()->setFocus(Qt::OtherFocusReason);
+    row->handFocusTo(*m_rows.back());
     row->hide();
     row->deleteLater();
 }

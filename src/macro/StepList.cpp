@@ -5,8 +5,10 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
+#include <span>
 #include <utility>
 
+#include "controls/FocusGroup.h"
 #include "controls/Panel.h"
 #include "controls/ScrollBox.h"
 #include "controls/TextLine.h"
@@ -26,6 +28,10 @@ void light(std::optional<std::size_t>& lit, Fade& hover, std::optional<std::size
     hover.to(1.0, theme::kHoverInMs);
 }
 
+bool isWithoutFirst(std::span<const MacroEvent> before, std::span<const MacroEvent> now) {
+    return !before.empty() && std::ranges::equal(before.subspan(1), now);
+}
+
 }  // namespace
 
 StepList::StepList(QWidget* parent) : QWidget(parent) {
@@ -41,10 +47,9 @@ void StepList::setSteps(const std::vector<MacroEvent>& steps) {
     m_press.to(0.0, 0);
     m_row.layOut(width(), m_steps.size());
     setMinimumHeight(static_cast<int>(m_steps.size()) * kPitch);
-    if (m_steps.empty() && hasFocus()) focusPreviousChild();
-    setFocusPolicy(m_steps.empty() ? Qt::NoFocus : Qt::StrongFocus);
+    setFocusPolicy(m_steps.empty() ? Qt::NoFocus : Qt::TabFocus);
     showAfter(before);
-    tellOfSteps(*this, before.size());
+    tellOfSteps(*this, before);
     tellOfRing(*this);
     update();
 }
@@ -55,9 +60,9 @@ void StepList::showAfter(const std::vector<MacroEvent>& before) {
     if (m_steps.empty()) return;
     const auto [old, now] = std::ranges::mismatch(before, m_steps);
     if (old == before.end() && !before.empty()) return ScrollBox::bringIntoView(*this, rowRect(m_steps.size() - 1));
-    if (now == m_steps.begin() && !std::ranges::equal(before.begin() + 1, before.end(), now, m_steps.end())) {
-        ScrollBox::bringIntoView(*this, rowRect(0));
-    }
+    if (now != m_steps.begin() || isWithoutFirst(before, m_steps)) return;
+    m_current = 0;
+    ScrollBox::bringIntoView(*this, rowRect(0));
 }
 
 void StepList::setCurrentStep(std::size_t index) {
@@ -110,23 +115,26 @@ void StepList::focusInEvent(QFocusEvent* event) {
 }
 
 void StepList::keyPressEvent(QKeyEvent* event) {
-    if (m_steps.empty()) return event->ignore();
+    if (m_steps.empty() || !isPlain(*event)) return event->ignore();
     const std::size_t last = m_steps.size() - 1;
     const auto rowsInView = static_cast<std::size_t>(std::max(1, visibleRegion().boundingRect().height() / kPitch));
-    m_hasKeyboardFocus = true;
+    const auto goTo = [this](std::size_t index) {
+        m_hasKeyboardFocus = true;
+        setCurrentStep(index);
+    };
     switch (event->key()) {
         case Qt::Key_Up:
-            return setCurrentStep(m_current - std::min<std::size_t>(m_current, 1));
+            return goTo(m_current - std::min<std::size_t>(m_current, 1));
         case Qt::Key_Down:
-            return setCurrentStep(std::min(m_current + 1, last));
+            return goTo(std::min(m_current + 1, last));
         case Qt::Key_PageUp:
-            return setCurrentStep(m_current - std::min(m_current, rowsInView));
+            return goTo(m_current - std::min(m_current, rowsInView));
         case Qt::Key_PageDown:
-            return setCurrentStep(std::min(m_current + rowsInView, last));
+            return goTo(std::min(m_current + rowsInView, last));
         case Qt::Key_Home:
-            return setCurrentStep(0);
+            return goTo(0);
         case Qt::Key_End:
-            return setCurrentStep(last);
+            return goTo(last);
         case Qt::Key_Space:
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -137,7 +145,11 @@ void StepList::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-void StepList::mouseMoveEvent(QMouseEvent* event) { point(event->position().toPoint()); }
+void StepList::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint place = event->position().toPoint();
+    point(place);
+    if (m_pressed) m_press.to(buttonAt(place) == m_pressed ? 1.0 : 0.0, 0);
+}
 
 void StepList::mousePressEvent(QMouseEvent* event) {
     m_hasKeyboardFocus = false;
@@ -145,15 +157,15 @@ void StepList::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !button) return event->ignore();
     m_pressed = button;
     m_current = *button;
+    setFocus(Qt::MouseFocusReason);
     m_press.to(1.0, 0);
 }
 
 void StepList::mouseReleaseEvent(QMouseEvent* event) {
-    const Index pressed = std::exchange(m_pressed, std::nullopt);
+    if (event->button() != Qt::LeftButton || !m_pressed) return event->ignore();
+    const std::size_t pressed = *std::exchange(m_pressed, std::nullopt);
     m_press.to(0.0, theme::kPressOutMs);
-    if (pressed && pressed == buttonAt(event->position().toPoint())) {
-        emit deleted(static_cast<std::int64_t>(*pressed));
-    }
+    if (buttonAt(event->position().toPoint()) == pressed) emit deleted(static_cast<std::int64_t>(pressed));
 }
 
 void StepList::leaveEvent(QEvent*) { forgetPointer(); }

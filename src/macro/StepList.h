@@ -15,7 +15,7 @@ namespace lumo {
 
 /// Main thread. As high as its steps, and paints no more of them than can be seen, so that thousands cost nothing. One
 /// stop for Tab: arrow keys go from one step's button to the next, Space and Return press it. A press beside the
-/// buttons goes to what lies behind.
+/// buttons goes to what lies behind, and leaves the focus where it is.
 class StepList final : public QWidget, public AccessibleSource, public RingWearer {
     Q_OBJECT
 

@@ -58,7 +58,12 @@ void TimelineCard::setRecording(bool isRecording) {
     placeButtons();
 }
 
-void TimelineCard::setSteps(const std::vector<MacroEvent>& steps) { m_steps->setSteps(steps); }
+void TimelineCard::setSteps(const std::vector<MacroEvent>& steps) {
+    if (steps.empty() && m_steps->hasFocus()) {  // which it cannot keep
+        m_insert->setFocus(m_steps->showsRing() ? Qt::OtherFocusReason : Qt::MouseFocusReason);
+    }
+    m_steps->setSteps(steps);
+}
 
 void TimelineCard::placeButtons() {
     m_record->setGeometry(kPadding, kButtonsTop, m_record->widthWith(kButtonPadding), kButtonHeight);

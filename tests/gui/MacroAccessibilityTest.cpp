@@ -5,6 +5,7 @@
 
 #include "gui/AccessibleTree.h"
 #include "gui/MacroFixture.h"
+#include "macro/AccessibleSteps.h"
 
 namespace lumo {
 namespace {
@@ -78,6 +79,22 @@ TEST_F(MacroAccessibility, PressingTheButtonOfAStepDeletesIt) {
     EXPECT_THAT(timeline().steps(), SizeIs(5));
     EXPECT_EQ(steps().childCount(), 5);
     EXPECT_THAT(childNames(*steps().child(2)), ElementsAre("3", "KEY UP", "0x53", "30", "ms", "Delete step 3"));
+}
+
+TEST_F(MacroAccessibility, OfTheStepsThatWereAskedForWhatReadsOtherwiseThanBeforeIsKnown) {
+    for (int i = 0; i < 3; ++i) (void)childNames(*steps().child(i));
+    const auto before = state().macroEvents.get();
+    auto now = before;
+    now[1] = {Uuid::random(), 87, true, 26};
+    now[2].id = Uuid::random();
+    now[5].delayMs = 1;
+    state().macroEvents.set(now);
+    settle();
+    const auto& described = static_cast<AccessibleSteps&>(steps());
+    EXPECT_THAT(described.changedSince(before), ElementsAre(steps().child(1)->child(1), steps().child(1)->child(3)));
+    state().macroEvents.set({});
+    settle();
+    EXPECT_THAT(described.changedSince(now), SizeIs(0));
 }
 
 TEST_F(MacroAccessibility, AStepThatIsGoneIsNoLongerValid) {
@@ -187,6 +204,17 @@ TEST_F(MacroAccessibility, ADeletedMacroThatHadTheFocusHandsItOn) {
     state().macroList.set(macros);
     settle();
     EXPECT_TRUE(control("Rapid Fire").hasFocus());
+    EXPECT_TRUE(control("Rapid Fire").showsRing());
+}
+
+TEST_F(MacroAccessibility, ADeletedMacroThatHadTheFocusFromTheMouseHandsItOnWithoutARing) {
+    click("Add macro");
+    click("Macro 4");
+    QAccessibleInterface& button = *accessible(only<MacroEditorView>(), QAccessible::PushButton, "Delete");
+    button.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    settle();
+    EXPECT_TRUE(control("Rapid Fire").hasFocus());
+    EXPECT_FALSE(control("Rapid Fire").showsRing());
 }
 
 }  // namespace

@@ -77,6 +77,15 @@ TEST_F(Timeline, ADeletedStepMovesNothing) {
     EXPECT_EQ(bar().value(), 350);
 }
 
+TEST_F(Timeline, NorDoesTheFirstStepWhenItIsDeleted) {
+    showMacros();
+    setSteps(50);
+    bar().setValue(10);
+    clickRemove(0);
+    EXPECT_THAT(timeline().steps(), SizeIs(49));
+    EXPECT_EQ(bar().value(), 10);
+}
+
 TEST_F(Timeline, AnotherMacroIsShownFromItsFirstStep) {
     showMacros();
     setSteps(50);
@@ -85,8 +94,10 @@ TEST_F(Timeline, AnotherMacroIsShownFromItsFirstStep) {
     macros[1].events = std::vector<MacroEvent>(40);
     for (MacroEvent& event : macros[1].events) event.id = Uuid::random();
     state().macroList.set(macros);
+    timeline().setCurrentStep(45);
     click("Super Jump");
     EXPECT_EQ(bar().value(), 0);
+    EXPECT_EQ(timeline().currentStep(), 0U);
 }
 
 TEST_F(Timeline, OneStopForTabWithArrowsInside) {
@@ -131,12 +142,55 @@ TEST_F(Timeline, SpaceAndReturnDeleteTheStepTheKeyboardIsAt) {
     EXPECT_EQ(timeline().currentStep(), 3U);
 }
 
+TEST_F(Timeline, KeysWithModifiersDeleteNothingAndMoveNothing) {
+    showMacrosActive();
+    enter();
+    for (const auto modifier : {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier, Qt::ShiftModifier}) {
+        for (const auto key : {Qt::Key_Down, Qt::Key_End, Qt::Key_Space, Qt::Key_Return}) {
+            QTest::keyClick(&timeline(), key, modifier);
+        }
+    }
+    settle();
+    EXPECT_THAT(timeline().steps(), SizeIs(6));
+    EXPECT_EQ(timeline().currentStep(), 0U);
+    QTest::keyClick(&timeline(), Qt::Key_Enter, Qt::KeypadModifier);
+    settle();
+    EXPECT_THAT(timeline().steps(), SizeIs(5));
+}
+
+TEST_F(Timeline, APressBesideTheButtonsLeavesTheFocusWhereItIs) {
+    showMacrosActive();
+    control("Insert Step").setFocus(Qt::TabFocusReason);
+    QTest::mouseClick(&timeline(), Qt::LeftButton, {}, timeline().rowRect(2).center());
+    EXPECT_TRUE(control("Insert Step").hasFocus());
+}
+
+TEST_F(Timeline, APressedTrashTakesTheFocusAndTheArrowsShowTheRing) {
+    showMacrosActive();
+    clickRemove(2);
+    EXPECT_TRUE(timeline().hasFocus());
+    EXPECT_FALSE(timeline().showsRing());
+    QTest::keyClick(&timeline(), Qt::Key_A);
+    EXPECT_FALSE(timeline().showsRing());
+    press(Qt::Key_Down);
+    EXPECT_TRUE(timeline().showsRing());
+    EXPECT_EQ(timeline().currentStep(), 3U);
+}
+
+TEST_F(Timeline, WhenTheMouseTakesTheLastStepAwayNoRingComesUp) {
+    showMacrosActive();
+    for (int i = 0; i < 6; ++i) clickRemove(0);
+    EXPECT_TRUE(control("Insert Step").hasFocus());
+    EXPECT_FALSE(control("Insert Step").showsRing());
+}
+
 TEST_F(Timeline, WithoutStepsItIsNoStop) {
     showMacrosActive();
     enter();
     for (int i = 0; i < 6; ++i) press(Qt::Key_Space);
     EXPECT_THAT(timeline().steps(), SizeIs(0));
     EXPECT_TRUE(control("Insert Step").hasFocus());
+    EXPECT_TRUE(control("Insert Step").showsRing());
     QTest::keyClick(&control("Insert Step"), Qt::Key_Tab);
     EXPECT_TRUE(control("Cycle times (3)").hasFocus());
 }
@@ -175,6 +229,32 @@ TEST_F(Timeline, TheRowBelowThePointerLightsUpAndItsTrashTurnsRed) {
         << colorAt(besideTrash).name().toStdString();
     moveTo({100, 300});
     EXPECT_TRUE(QTest::qWaitFor([&] { return colorAt(inRow) == QColor(33, 33, 35); }));
+}
+
+TEST_F(Timeline, APressedTrashComesUpWhileThePointerIsElsewhere) {
+    showMacros();
+    const QPoint besideTrash = timeline().partRect(2, StepPart::remove).topLeft() + QPoint(12, 2);
+    const QColor atRest = colorAt(besideTrash);
+    QTest::mousePress(&timeline(), Qt::LeftButton, {}, removeButton(2));
+    EXPECT_NE(colorAt(besideTrash), atRest);
+    QTest::mouseMove(&timeline(), removeButton(4));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return colorAt(besideTrash) == atRest; }));
+    QTest::mouseMove(&timeline(), removeButton(2));
+    EXPECT_NE(colorAt(besideTrash), atRest);
+    QTest::mouseRelease(&timeline(), Qt::LeftButton, {}, removeButton(2));
+    settle();
+    EXPECT_THAT(timeline().steps(), SizeIs(5));
+}
+
+TEST_F(Timeline, OnlyTheButtonThatPressedTheTrashDeletes) {
+    showMacros();
+    QTest::mousePress(&timeline(), Qt::LeftButton, {}, removeButton(2));
+    QTest::mouseClick(&timeline(), Qt::RightButton, {}, removeButton(2));
+    settle();
+    EXPECT_THAT(timeline().steps(), SizeIs(6));
+    QTest::mouseRelease(&timeline(), Qt::LeftButton, {}, removeButton(2));
+    settle();
+    EXPECT_THAT(timeline().steps(), SizeIs(5));
 }
 
 TEST_F(Timeline, PressAndReleaseAreToldApartByColorToo) {
