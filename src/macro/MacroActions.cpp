@@ -29,10 +29,10 @@ bool isIndexOf(const std::vector<Item>& items, std::int64_t index) {
 void MacroActions::selectMacro(std::int64_t index) {
     const std::vector<MacroItem>& macros = m_state.macroList.get();
     if (!isIndexOf(macros, index)) return;
-    const MacroItem& macro = macros[static_cast<std::size_t>(index)];
+    MacroItem macro = macros[static_cast<std::size_t>(index)];
     m_state.selectedMacroIndex.set(index);
-    m_state.macroName.set(macro.name);
-    edit(macro.events);
+    m_state.macroName.set(std::move(macro.name));
+    edit(std::move(macro.events));
 }
 
 void MacroActions::addNewMacro() {
