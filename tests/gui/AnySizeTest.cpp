@@ -26,8 +26,7 @@ private:
 };
 
 class AnyPage : public AnySize, public testing::WithParamInterface<NavTab> {};
-INSTANTIATE_TEST_SUITE_P(Of, AnyPage,
-                         testing::Values(NavTab::keyAssign, NavTab::lighting, NavTab::music, NavTab::settings));
+INSTANTIATE_TEST_SUITE_P(Of, AnyPage, testing::ValuesIn(kAllTabs));
 
 TEST_P(AnyPage, IsPaintedWithoutAWord) {
     state().currentTab.set(GetParam());

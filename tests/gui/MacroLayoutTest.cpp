@@ -19,6 +19,20 @@ namespace {
 class MacroLayout : public test::MacroFixture {
 protected:
     QRect namedRect(const QString& name) { return rectOf(control(name)); }
+
+    /// From where to where something is written in it.
+    static std::pair<int, int> inkedRows(QWidget& widget) {
+        const QImage picture = widget.grab().toImage();
+        std::pair<int, int> rows(-1, -1);
+        for (int y = 2; y < picture.height() - 2; ++y) {
+            for (int x = 4; x < picture.width() - 4; ++x) {
+                if (picture.pixelColor(x, y).lightness() < 0x50) continue;
+                if (rows.first < 0) rows.first = y;
+                rows.second = y;
+            }
+        }
+        return rows;
+    }
 };
 
 TEST_F(MacroLayout, TheUsualWindowHasThreeColumns) {
@@ -126,6 +140,16 @@ TEST_F(MacroLayout, RecompileStandsInTheHeadingsRow) {
     EXPECT_EQ(namedRect("Recompile Bytecode").top(), 486);
     EXPECT_EQ(namedRect("Recompile Bytecode").height(), 24);
     EXPECT_EQ(rectOf(bytecode()), QRect(604, 520, 328, 188));
+}
+
+TEST_F(MacroLayout, TheLinesOfTheByteCodeFitTheirBoxAndStandInItsMiddle) {
+    for (const auto& [size, pitch] : {std::pair(QSize(960, 760), 17), std::pair(QSize(900, 680), 14)}) {
+        showMacros(size);
+        click("Recompile Bytecode");
+        const auto [first, last] = inkedRows(bytecode());
+        EXPECT_NEAR(last - first, 7 * pitch + 7, 2) << pitch;
+        EXPECT_NEAR(first + last, bytecode().height() - 1, 4) << pitch;
+    }
 }
 
 TEST_F(MacroLayout, NoTextIsElidedInTheSmallestWindow) {
