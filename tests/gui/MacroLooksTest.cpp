@@ -9,6 +9,7 @@
 
 #include "app/AssetManager.h"
 #include "controls/Picture.h"
+#include "controls/Symbol.h"
 #include "gui/MacroFixture.h"
 #include "macro/TimelineHeading.h"
 
@@ -26,16 +27,32 @@ class MacroLooks : public test::MacroFixture {
 protected:
     void SetUp() override { showMacros(); }
 
+    QImage pictureOf(const QString& label) { return view->grab(rectOf(control(label))).toImage(); }
+    /// Where the mark before the button's label stands.
+    static QRectF markRect(const QImage& button, const QString& label, double size) {
+        const double textWidth = Lettering(theme::kButtonStyle).widthOf(label);
+        return {(button.width() - size - 6.0 - textWidth) / 2.0, 14.0 - size / 2.0, size, size};
+    }
+    /// The button without what is painted in that place.
+    static QImage without(const QImage& button, const QRectF& frame) {
+        QImage empty = button;
+        QPainter(&empty).fillRect(frame.toAlignedRect(), button.pixelColor(4, 14));
+        return empty;
+    }
     /// The button looks as if the picture of that name had been painted before its label.
     bool hasPicture(const QString& label, std::string_view name) {
-        const QImage shown = view->grab(rectOf(control(label))).toImage();
-        const double textWidth = Lettering(theme::kButtonStyle).widthOf(label);
-        const QRectF frame((shown.width() - 22.0 - textWidth) / 2.0, 6.0, 16.0, 16.0);
-        const QRect pixels = frame.toAlignedRect();
-        QImage expected = shown;
-        QPainter(&expected).fillRect(pixels, shown.pixelColor(4, 14));
+        const QImage shown = pictureOf(label);
+        const QRectF frame = markRect(shown, label, 16.0);
+        QImage expected = without(shown, frame);
         paintAsset(expected, frame, name);
-        return shown.copy(pixels) == expected.copy(pixels);
+        return shown == expected;
+    }
+    static bool hasSymbol(const QImage& shown, const QRectF& frame, const QString& name, const QColor& color) {
+        QImage expected = without(shown, frame);
+        QPainter painter(&expected);
+        paintSymbol(painter, frame, name, color);
+        painter.end();
+        return shown == expected;
     }
     /// The letter pixel of the button's label that is farthest from its ground.
     QColor inkOf(const QString& label) {
@@ -62,6 +79,22 @@ TEST_F(MacroLooks, RecordActionIsGreyWithItsPictureAndStopRecordingRed) {
     })) << inkOf("Stop Recording").name().toStdString();
     EXPECT_TRUE(hasPicture("Stop Recording", "stop_nr.png"));
     EXPECT_FALSE(hasPicture("Stop Recording", "record_nr.png"));
+}
+
+TEST_F(MacroLooks, WhatAddsHasAPlus) {
+    const QImage insert = pictureOf("Insert Step");
+    EXPECT_TRUE(hasSymbol(insert, markRect(insert, "Insert Step", 14.0), "plus", theme::kTextButton));
+    EXPECT_TRUE(hasSymbol(pictureOf("Add macro"), {6.0, 6.0, 16.0, 16.0}, "plus", theme::kTextButton));
+}
+
+TEST_F(MacroLooks, TheChosenLoopModeHasAVioletDotWithAWhiteMiddle) {
+    click("Until key released");
+    const auto at = [this](const QString& mode, int x) { return pictureOf(mode).pixelColor(x, 13); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return at("Until key released", 3) == theme::kAccent; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return at("Until key released", 8) == QColor(Qt::white); }));
+    for (const QString mode : {"Cycle times (3)", "Until key pressed"}) {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return at(mode, 8) == QColor(0x1B, 0x1B, 0x1D); })) << mode.toStdString();
+    }
 }
 
 class MacroHelp : public test::MacroFixture {
@@ -104,14 +137,17 @@ protected:
         picture.fill(Qt::transparent);
         return picture;
     }
-    /// Whether the row shows that picture there, and nothing else.
-    static bool shows(const MacroEvent& step, const QRectF& frame, std::string_view name) {
+    static QImage pictureOf(const MacroEvent& step) {
         StepRow row;
         row.layOut(kSize.width(), 1);
         QImage shown = empty();
         QPainter painter(&shown);
         row.paint(painter, 0, step, {});
-        painter.end();
+        return shown;
+    }
+    /// Whether the row shows that picture there, and nothing else.
+    static bool shows(const MacroEvent& step, const QRectF& frame, std::string_view name) {
+        const QImage shown = pictureOf(step);
         QImage expected = empty();
         paintAsset(expected, frame, name);
         const QRect pixels = frame.toAlignedRect();
@@ -134,6 +170,16 @@ TEST_F(StepRowPictures, APressAReleaseAndTheDelayHaveThePicturesOfTheirNames) {
     EXPECT_FALSE(shows(release, icon, "other/mac_keydn.png"));
     EXPECT_TRUE(shows(press, clockOf(press), "other/time.png"));
     EXPECT_TRUE(shows(release, clockOf(release), "other/time.png"));
+}
+
+TEST_F(StepRowPictures, TheDeleteButtonHasATrash) {
+    QImage expected = empty();
+    QPainter painter(&expected);
+    paintSymbol(painter, QRectF(325.0, 10.0, 14.0, 14.0), "trash", theme::kTextMinor);
+    painter.end();
+    const QRect button(320, 5, 24, 24);
+    EXPECT_EQ(pictureOf(press).copy(button), expected.copy(button));
+    EXPECT_NE(expected, empty());
 }
 
 }  // namespace
