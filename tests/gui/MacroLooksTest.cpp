@@ -25,7 +25,10 @@ void paintAsset(QImage& picture, const QRectF& frame, std::string_view name) {
 
 class MacroLooks : public test::MacroFixture {
 protected:
-    void SetUp() override { showMacros(); }
+    void SetUp() override {
+        platform.resources.directory = LUMO_ASSETS_FOLDER;
+        showMacros();
+    }
 
     QImage pictureOf(const QString& label) { return view->grab(rectOf(control(label))).toImage(); }
     /// Where the mark before the button's label stands.
@@ -130,6 +133,8 @@ TEST_F(MacroHelp, ANameThatIsCutInTheHeadingIsToldInFull) {
 
 class StepRowPictures : public test::LinkFixture {
 protected:
+    StepRowPictures() { platform.resources.directory = LUMO_ASSETS_FOLDER; }
+
     static constexpr QSize kSize{348, StepRow::kHeight};
 
     static QImage empty() {
