@@ -20,8 +20,8 @@ everyTargetHasTest() {
 runTargets() {
     local code=0
     rm -f "$record"
-    ctest --test-dir build/fuzz --tests-regex '^Fuzz\.' --no-tests=error --timeout 300 --output-on-failure \
-        --output-junit "$record" </dev/null || code=$?
+    ctest --test-dir build/fuzz --parallel "$(jobCount)" --tests-regex '^Fuzz\.' --no-tests=error --timeout 300 \
+        --output-on-failure --output-junit "$record" </dev/null || code=$?
     addCTestCount "$record" || code=1
     everyTargetHasTest "$@"
     return "$code"

@@ -40,7 +40,7 @@ inline constexpr auto kBasicNumbers = std::to_array<BasicKey>({
 
 /// Usages one after the other, texts of one letter.
 [[nodiscard]] constexpr bool areInARow(const auto& keys) {
-    return std::ranges::all_of(keys, [&keys, usage = keys.front().usage](const BasicKey& key) mutable {
+    return std::ranges::all_of(keys, [usage = keys.front().usage](const BasicKey& key) mutable {
         return key.usage == usage++ && key.text.size() == 1;
     });
 }
