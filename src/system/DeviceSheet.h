@@ -1,4 +1,4 @@
-// The card with the device's specifications.
+// The card with the device's fixed data.
 #pragma once
 
 #include <QWidget>
