@@ -42,12 +42,14 @@ MusicVisualizerView::MusicVisualizerView(VexaProtocol& link, AudioVisualizerEngi
       m_modesCard(makeModesCard(m_modes, this)),
       m_levels(new MusicLevelsCard(main, this)),
       m_refresh(main, [this] { refresh(); }),
+      m_equalizerRefresh(main, [this] { refreshEqualizer(); }),
       m_linkChanges(link.observe([this] { m_refresh.request(); })),
-      m_visualizerChanges(visualizer.observe([this] { m_refresh.request(); })),
+      m_visualizerChanges(visualizer.observe([this] { m_equalizerRefresh.request(); })),
       m_stateChanges(state.observe([this] { m_refresh.request(); })),
       m_permissionChanges(permissions.observe([this] { m_refresh.request(); })) {
     setMinimumHeight(theme::kShortestPage);
     connectControls();
+    refreshEqualizer();
     refresh();
 }
 
@@ -60,10 +62,13 @@ void MusicVisualizerView::connectControls() {
             [this](double smoothness) { m_state.musicSmooth.set(smoothness); });
 }
 
-void MusicVisualizerView::refresh() {
+void MusicVisualizerView::refreshEqualizer() {
     m_equalizer->setStreaming(m_visualizer.isRunning.get());
     m_equalizer->setLevels(m_visualizer.frequencyLevels.get());
     m_equalizer->setSource(m_visualizer.inputSource.get());
+}
+
+void MusicVisualizerView::refresh() {
     m_modes->setSelected(m_state.activeMusicMode.get());
     m_levels->setGain(m_state.musicGain.get());
     m_levels->setSmoothness(m_state.musicSmooth.get());

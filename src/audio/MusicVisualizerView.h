@@ -33,6 +33,7 @@ protected:
 
 private:
     void connectControls();
+    void refreshEqualizer();
     void refresh();
     void showNotice(bool isShown);
     void place();
@@ -48,6 +49,7 @@ private:
     MusicLevelsCard* m_levels;
     bool m_showsNotice = true;
     CoalescedRefresh m_refresh;
+    CoalescedRefresh m_equalizerRefresh;  // apart: levels come thirty times a second
     Subscription m_linkChanges;
     Subscription m_visualizerChanges;
     Subscription m_stateChanges;

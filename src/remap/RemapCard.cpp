@@ -4,6 +4,7 @@
 
 #include "app/AssetManager.h"
 #include "controls/Panel.h"
+#include "controls/Picture.h"
 #include "controls/PlainText.h"
 #include "controls/PushButton.h"
 #include "controls/Symbol.h"
@@ -52,8 +53,7 @@ void RemapCard::paintSurface(QPainter& painter) const {
 void RemapCard::paintIcon(QPainter& painter, const QRectF& frame) const {
     const QImage* const picture = AssetManager::shared().image(m_icon);
     if (!picture) return paintSymbol(painter, frame, "circle.grid.2x2", kSymbolColor);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(frame, *picture);
+    paintPicture(painter, frame, *picture);
 }
 
 void RemapCard::paintName(QPainter& painter, double top) const {
