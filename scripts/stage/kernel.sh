@@ -14,5 +14,6 @@ if isMac; then
 fi
 # What users install, and in an emulated machine only that is quick enough to paint the keyboard at every frame.
 cmake --preset release -DCMAKE_CXX_COMPILER=g++
-cmake --build build/release --parallel "$(jobCount)" --target vexa-lumo-65 lumo-usbip-keyboard lumo-uhid-keyboard
+cmake --build build/release --parallel "$(jobCount)" --target vexa-lumo-65 lumo-fault-matrix \
+    lumo-usbip-keyboard lumo-uhid-keyboard
 exec tests/vm/run_vm.sh build/release build/kernel

@@ -4,11 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "app/SharedObjects.h"
+#include "support/StatusTexts.h"
 #include "support/TestPlatform.h"
 
 namespace lumo::test {
@@ -34,14 +35,8 @@ protected:
     }
 
     /// Every status text that is published from now on, in order.
-    void recordStatuses() {
-        m_lastStatus = link().statusMessage.get();
-        m_recording = link().observe([this] { noteStatus(); });  // sees what the write before stored
-    }
-    const std::vector<std::string>& statuses() {
-        noteStatus();
-        return m_statuses;
-    }
+    void recordStatuses() { m_texts.emplace(link()); }
+    const std::vector<std::string>& statuses() { return m_texts.value().all(); }
 
     std::vector<std::uint8_t> commandsSent() const {
         std::vector<std::uint8_t> commands;
@@ -56,14 +51,7 @@ protected:
     }
 
 private:
-    void noteStatus() {
-        const std::string& now = link().statusMessage.get();
-        if (now != m_lastStatus) m_statuses.push_back(now);
-        m_lastStatus = now;
-    }
-    std::vector<std::string> m_statuses;
-    std::string m_lastStatus;
-    Subscription m_recording;
+    std::optional<StatusTexts> m_texts;
 };
 
 }  // namespace lumo::test

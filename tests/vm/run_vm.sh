@@ -6,6 +6,8 @@
 # kernel for the next time; WORK_DIR/out has what the machine wrote.
 #
 # LUMO_VM_FAULT="set 04 refuse" breaks the keyboards beforehand: a way to see that the checks can fail.
+# LUMO_VM_FAULT_EVERY=20 plays only each twentieth of all fault cases; 1 plays all, which takes the machine longer than
+# LUMO_VM_SECONDS usually allows.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 for piece in say count; do
@@ -49,7 +51,7 @@ needPrograms() {
     needCommand at-spi-bus-launcher at-spi2-core
     /usr/bin/python3 -c 'import gi; gi.require_version("Gio", "2.0")' 2>/dev/null ||
         cannotRun "Python's door to the accessibility bus is missing (package python3-gi)."
-    for program in vexa-lumo-65 lumo-uhid-keyboard lumo-usbip-keyboard; do
+    for program in vexa-lumo-65 lumo-fault-matrix lumo-uhid-keyboard lumo-usbip-keyboard; do
         [ -x "$build/bin/$program" ] || die "$build/bin/$program has not been built."
     done
 }

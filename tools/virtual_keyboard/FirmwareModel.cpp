@@ -45,6 +45,7 @@ FirmwareModel::FirmwareModel()
       m_keyTable(filledBlock({0x06, 0x83, 0x00, 0x00, 0x01, 0x00, 0xF8, 0x01}, 13)) {}
 
 Outcome FirmwareModel::setFeature(std::span<const std::uint8_t> bytes) {
+    ++m_transfers;
     const Bytes report(bytes.begin(), bytes.end());
     m_writes.push_back(report);
     if (const Fault* fault = faultFor(Direction::set, commandOf(report))) {
@@ -104,6 +105,7 @@ Bytes FirmwareModel::answerTo(std::uint8_t readCommand) const {
 }
 
 FirmwareModel::Answer FirmwareModel::getFeature(std::size_t length) {
+    ++m_transfers;
     Answer answer{Outcome::answered, answerTo(m_pendingRead)};
     if (const Fault* fault = faultFor(Direction::get, m_pendingRead)) {
         switch (fault->kind) {

@@ -79,6 +79,9 @@ public:
     [[nodiscard]] Bytes lastWrite(std::uint8_t command) const;
     void forgetWrites() { m_writes.clear(); }
 
+    /// How many sets and gets have arrived, whatever came of them.
+    [[nodiscard]] std::size_t transfers() const { return m_transfers; }
+
 private:
     struct ActiveFault {
         Fault fault;
@@ -96,6 +99,7 @@ private:
     std::vector<Bytes> m_writes;
     std::vector<ActiveFault> m_faults;
     std::uint8_t m_pendingRead = 0;
+    std::size_t m_transfers = 0;
 };
 
 }  // namespace lumo::vk

@@ -6,7 +6,7 @@ out=/mnt/lumo-out
 files=/run/lumo-files
 # shellcheck source=/dev/null
 . $out/job
-: "${lumoTests:?}" "${lumoBuild:?}" "${lumoKernel:?}" "${lumoFault=}"
+: "${lumoTests:?}" "${lumoBuild:?}" "${lumoKernel:?}" "${lumoFault=}" "${lumoFaultEvery=1}"
 
 # Everything is in memory already; /tmp keeps the host's files, because the build may lie there.
 mountSystem() {
@@ -46,14 +46,14 @@ copyFiles() {
     local pictures=$files/share/vexa-lumo-65
     mkdir -p $files/bin $pictures
     cp "$lumoTests"/guest/*.py $files
-    cp "$lumoBuild"/bin/{vexa-lumo-65,lumo-uhid-keyboard,lumo-usbip-keyboard} $files/bin
+    cp "$lumoBuild"/bin/{vexa-lumo-65,lumo-{fault-matrix,uhid-keyboard,usbip-keyboard}} $files/bin
     cp -r "$lumoTests"/../../vexa_lumo_macos/assets/{*.png,skins} $pictures
     chmod -R a+rX $files
 }
 
 runScenario() {
     cd /tmp || return
-    LUMO_BIN=$files/bin LUMO_FAULT=$lumoFault PYTHONUNBUFFERED=1 PYTHONDONTWRITEBYTECODE=1 \
+    LUMO_BIN=$files/bin LUMO_FAULT=$lumoFault LUMO_FAULT_EVERY=$lumoFaultEvery PYTHONUNBUFFERED=1 PYTHONDONTWRITEBYTECODE=1 \
         LANG=C.UTF-8 /usr/bin/python3 $files/scenario.py >>$out/report.txt 2>&1
 }
 

@@ -4,6 +4,7 @@ import functools
 import os
 import sys
 
+import chapter_faults
 import chapter_life
 import chapter_lighting
 import chapter_music
@@ -37,6 +38,7 @@ def keyboards():
 def tell_as_root(checks, boards):
     checks.chapter("Rights, by cable", lambda: chapter_rights.tell(checks, boards["rights"]))
     checks.chapter("Rights, by receiver", lambda: chapter_rights.tell(checks, boards["rights-receiver"]))
+    checks.chapter("Every fault", lambda: chapter_faults.tell(checks, BIN, LOGS))
 
 
 def tell_as_user(checks, boards):

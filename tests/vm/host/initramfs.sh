@@ -23,6 +23,7 @@ copyModule() {
 writeJob() {
     printf 'lumoTests=%q\nlumoBuild=%q\nlumoKernel=%q\n' "$here" "$build" "$kernelTree"
     printf 'lumoModules=%q\nlumoFault=%q\n' "${bootModules[*]}" "${LUMO_VM_FAULT:-}"
+    printf 'lumoFaultEvery=%q\n' "${LUMO_VM_FAULT_EVERY:-20}"
 }
 
 packInitramfs() {
