@@ -1,5 +1,7 @@
 #include "macro/ProfileList.h"
 
+#include <algorithm>
+
 #include "controls/FocusGroup.h"
 #include "controls/ListRow.h"
 
@@ -33,7 +35,7 @@ void ProfileList::setNames(const QStringList& names) {
     while (m_rows.size() > count) dropLastRow();
     for (std::size_t i = 0; i < m_rows.size(); ++i) m_rows[i]->setName(names[static_cast<qsizetype>(i)]);
     while (m_rows.size() < count) addRow(names[static_cast<qsizetype>(m_rows.size())]);
-    m_rowsParent->setMinimumHeight(static_cast<int>(count) * (kRowHeight + kRowGap) - kRowGap);
+    m_rowsParent->setMinimumHeight(std::max(0, static_cast<int>(count) * (kRowHeight + kRowGap) - kRowGap));
 }
 
 void ProfileList::addRow(const QString& name) {
@@ -51,7 +53,7 @@ void ProfileList::dropLastRow() {
     ListRow* const row = m_rows.back();
     m_rows.pop_back();
     m_group->remove(*row);
-    row->handFocusTo(*m_rows.back());
+    if (!m_rows.empty()) row->handFocusTo(*m_rows.back());
     row->hide();
     row->deleteLater();
 }

@@ -87,6 +87,22 @@ TEST_F(MacroPage, TheLastMacroStaysAndItsButtonStaysEnabled) {
     EXPECT_EQ(statusLine().text(), "Ready");
 }
 
+TEST_F(MacroPage, AListThatSomebodyEmptiedIsEmptyEvenUnderTheFocus) {
+    static int complaints = 0;
+    complaints = 0;
+    const auto before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { ++complaints; });
+    control("Rapid WASD").setFocus(Qt::TabFocusReason);
+    state().macroList.set({});
+    time.settle();
+    EXPECT_THAT(profiles(), IsEmpty());
+    state().macroList.set(builtInMacros());
+    time.settle();
+    EXPECT_THAT(profiles(), ElementsAre("Rapid WASD", "Super Jump", "Rapid Fire"));
+    qInstallMessageHandler(before);
+    EXPECT_EQ(complaints, 0);
+}
+
 TEST_F(MacroPage, InsertStepAddsAPairAtTheEnd) {
     click("Insert Step");
     EXPECT_THAT(timeline().steps(), SizeIs(8));
