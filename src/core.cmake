@@ -1,5 +1,6 @@
 add_library(lumo_core STATIC
     app/AssetPaths.cpp
+    app/PngChunks.cpp
     app/SharedObjects.cpp
     audio/AudioVisualizerEngine.cpp
     audio/MusicActions.cpp

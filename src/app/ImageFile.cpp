@@ -6,10 +6,13 @@
 #include <QFile>
 #include <QImageReader>
 
+#include "app/PngChunks.h"
+
 namespace lumo {
 namespace {
 
 constexpr int kLargestPictureMiB = 64;  // ours are 4 at most; a few bytes of a file can claim any size
+constexpr qint64 kLargestFile = kLargestPictureMiB * 1024 * 1024;
 
 // Both for the length of one file: to us a damaged picture is as good as none, whatever the readers think of it.
 
@@ -48,13 +51,23 @@ private:
     const int m_before = ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0);
 };
 
+/// The bytes are looked over before the readers see them.
+bool isWorthReading(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestFile) return false;
+    const QByteArray bytes = file.readAll();
+    return !claimsMorePngThanThereIs({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
 }  // namespace
 
 QImage loadImageFile(const std::string& path) {
+    const QString name = QFile::decodeName(path.c_str());
+    if (!isWorthReading(name)) return {};
     const MutedMessages mutedMessages;
     const MutedErrorStream mutedErrors;
     QImageReader::setAllocationLimit(kLargestPictureMiB);
-    QImageReader reader(QFile::decodeName(path.c_str()));
+    QImageReader reader(name);
     const QImage read = reader.read();
     // The form that is painted without being converted every time.
     return read.isNull() ? read : read.convertToFormat(QImage::Format_ARGB32_Premultiplied);

@@ -27,6 +27,14 @@ QByteArray hugeClaim() {
         "0000000b49444154789c63604005000010000139bd8f650000000049454e44ae426082");
 }
 
+/// A correct PNG header, and a text whose length is given as 1.7 GiB and of which nothing is there.
+QByteArray hugeChunk() { return hugeClaim().left(33) + QByteArray::fromHex("6efe002e74455874"); }
+
+/// The same as the one picture of an icon file.
+QByteArray iconOf(const QByteArray& picture) {
+    return QByteArray::fromHex("00000100010001010000010020002900000016000000") + picture;
+}
+
 QByteArray damaged() {
     QByteArray bytes = goodPicture();
     bytes[bytes.size() / 2] = static_cast<char>(~bytes[bytes.size() / 2]);
@@ -46,6 +54,8 @@ const BadFile kBadFiles[] = {
     {"CutShort", [] { return goodPicture().chopped(30); }},
     {"Damaged", damaged},
     {"HugeClaim", hugeClaim},
+    {"HugeChunk", hugeChunk},
+    {"HugeChunkInIcon", [] { return iconOf(hugeChunk()); }},
     {"BrokenDrawing", [] { return QByteArray("<svg xmlns='http://www.w3.org/2000/svg'><path d="); }},
     {"OtherPictureCutShort", [] { return QByteArray("\xFF\xD8\xFF\xE0\x00\x10JFIF", 10); }},
 };
@@ -90,6 +100,32 @@ TEST_P(BadFiles, AreSkippedInSilence) {
 
 INSTANTIATE_TEST_SUITE_P(Of, BadFiles, testing::ValuesIn(kBadFiles),
                          [](const auto& each) { return std::string(each.param.name); });
+
+#ifdef Q_OS_LINUX
+/// In KiB, from the system's own description of this process.
+long memory(const char* which) {
+    QFile status("/proc/self/status");
+    if (!status.open(QIODevice::ReadOnly)) return 0;
+    const QByteArray text = status.readAll();
+    const QByteArray line = text.mid(text.indexOf(which));
+    return line.left(line.indexOf('\n')).simplified().split(' ').value(1).toLong();
+}
+
+void forgetPeak() {
+    QFile references("/proc/self/clear_refs");
+    ASSERT_TRUE(references.open(QIODevice::WriteOnly));
+    ASSERT_EQ(references.write("5"), 1);
+}
+
+TEST_P(BadFiles, TakeNoMoreMemoryThanAPictureMay) {
+    write(resources + "/a.png", GetParam().bytes());
+    forgetPeak();
+    const long before = memory("VmRSS:");
+    EXPECT_EQ(onDisk.image("a.png"), nullptr);
+    EXPECT_GT(before, 0);
+    EXPECT_LT(memory("VmHWM:") - before, 128 * 1024);
+}
+#endif
 
 TEST_F(BadPictures, AFolderOfThatNameIsSkipped) {
     ASSERT_TRUE(QDir().mkpath(resources + "/a.png"));
