@@ -10,6 +10,7 @@ void DemoPlatform::setLaunchedBefore() { m_preferences.setBool(true, PermissionM
 std::unique_ptr<HidManager> DemoPlatform::makeHidManager(IoQueue io) {
     auto manager = std::make_unique<InProcessHidManager>(mainQueue(), io, m_firmware, m_log);
     manager->plugKeyboard();
+    m_hid = manager.get();
     return manager;
 }
 

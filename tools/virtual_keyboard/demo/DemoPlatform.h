@@ -10,6 +10,8 @@
 
 namespace lumo::vk {
 
+class InProcessHidManager;
+
 /// Its one HID manager has the keyboard on its cable plugged in from the start.
 class DemoPlatform final : public Platform {
 public:
@@ -32,6 +34,9 @@ public:
     /// Belongs to the I/O queue once the manager is made.
     [[nodiscard]] FirmwareModel& firmware() { return m_firmware; }
 
+    /// Once the manager is made, and as long as it.
+    [[nodiscard]] InProcessHidManager& hid() { return *m_hid; }
+
 private:
     NativePlatform m_native;
     FirmwareModel m_firmware;
@@ -39,6 +44,7 @@ private:
     PrivacyCenter m_privacy{m_native.mainQueue().run};
     DemoDesktop m_desktop{m_native.desktop(), m_privacy};
     MemoryPreferences m_preferences;
+    InProcessHidManager* m_hid = nullptr;
 };
 
 }  // namespace lumo::vk
