@@ -56,6 +56,21 @@ TEST_F(LostEvents, AreFollowedByTheNextOnes) {
     EXPECT_TRUE(plugged(vendor));
 }
 
+/// The device manager handles different nodes side by side and may tell of the arrival first.
+TEST_F(LostEvents, ADepartureThatIsToldAfterTheNextArrivalComesFirst) {
+    openManager();
+    const DeviceRef first = plugged(vendor);
+    MockedInterface again = vendor;
+    again.hidraw = 2;
+    std::vector<std::string> order;
+    manager->onRemoved([&](const DeviceRef& device) { order.emplace_back(device == first ? "first goes" : "another"); });
+    manager->onMatched([&](const DeviceRef&) { order.emplace_back("it comes"); });
+    kernel.vanish(vendor);
+    kernel.plug(again);
+    ASSERT_TRUE(loop.runUntil([&] { return !order.empty() && order.back() == "it comes"; }));
+    EXPECT_EQ(order, (std::vector<std::string>{"first goes", "it comes"}));
+}
+
 class NoMonitor : public HidFixture {
 protected:
     void SetUp() override {

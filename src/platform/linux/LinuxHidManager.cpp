@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
 #include <set>
 #include <utility>
 
@@ -9,6 +10,12 @@ namespace lumo {
 namespace {
 
 constexpr const char* kSubsystem = "hidraw";
+
+/// The kernel takes a device out of sysfs before it tells of that.
+bool isPresent(const std::string& syspath) {
+    std::error_code ignored;
+    return std::filesystem::exists(syspath, ignored);
+}
 
 }  // namespace
 
@@ -94,6 +101,7 @@ void LinuxHidManager::arrive(HidrawInterface found) {
     const auto known = m_known.find(found.syspath);
     if (known != m_known.end() && known->second->interface().identity == found.identity) return;
     leave(found.syspath);
+    leaveVanished();
     const auto device = remember(std::move(found));
     if (m_onMatched) m_onMatched(device);
 }
@@ -105,6 +113,16 @@ void LinuxHidManager::leave(const std::string& syspath) {
     m_known.erase(known);
     device->markGone();
     if (m_onRemoved) m_onRemoved(device);
+}
+
+/// The device manager handles different nodes side by side: of a keyboard that is quickly plugged again, the arrival
+/// can be told of before the departure.
+void LinuxHidManager::leaveVanished() {
+    std::vector<std::string> vanished;
+    for (const auto& [syspath, device] : m_known) {
+        if (!isPresent(syspath)) vanished.push_back(syspath);
+    }
+    for (const std::string& syspath : vanished) leave(syspath);
 }
 
 LinuxHidManager::Found LinuxHidManager::enumerate() const {

@@ -40,6 +40,7 @@ private:
     void reconcile();
     void arrive(HidrawInterface found);
     void leave(const std::string& syspath);
+    void leaveVanished();
     [[nodiscard]] Found enumerate() const;
     [[nodiscard]] bool isUdevRunning() const;
     [[nodiscard]] std::shared_ptr<HidrawDevice> remember(HidrawInterface found);
