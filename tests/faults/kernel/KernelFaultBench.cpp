@@ -4,6 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "faults/kernel/Belongings.h"
 #include "platform/linux/LinuxHidManager.h"
 
 namespace lumo::test {
@@ -18,7 +19,12 @@ std::unique_ptr<HidManager> KernelPlatform::makeHidManager(IoQueue io) {
     return makeLinuxHidManager({loop}, io, [](std::string_view) {});
 }
 
-KernelFaultBench::~KernelFaultBench() { m_objects.finishDeviceTraffic(); }
+KernelFaultBench::~KernelFaultBench() {
+    // Nodes are closed by the I/O queue, as long as there is one; the program leaves the last to the end of the
+    // process.
+    (void)runUntil([] { return !Belongings().haveNode(); });
+    m_objects.finishDeviceTraffic();
+}
 
 /// A keyboard that is about to vanish is still plugged in, and takes a moment to be gone.
 void KernelFaultBench::plug() {
