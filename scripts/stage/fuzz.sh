@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds the fuzz targets and gives each its short run, as tests/fuzz defines it: seeds, length, number of inputs.
+# fuzz.sh [SECONDS]: builds the fuzz targets and gives each its run, as tests/fuzz defines it: a number of inputs, or as
+# many as so many seconds allow. What each printed is kept in build/long/fuzz.log then.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 for piece in say system count sanitizers; do
@@ -7,6 +8,7 @@ for piece in say system count sanitizers; do
     . "scripts/$piece.sh"
 done
 record=$PWD/build/fuzz/tests.xml
+seconds=${1:-0}
 
 targets() { cmake --build build/fuzz --target help | sed -n 's/^\(lumo_fuzz_[A-Za-z0-9_]*\): phony$/\1/p' | sort -u; }
 
@@ -20,15 +22,16 @@ everyTargetHasTest() {
 runTargets() {
     local code=0
     rm -f "$record"
-    ctest --test-dir build/fuzz --parallel "$(jobCount)" --tests-regex '^Fuzz\.' --no-tests=error --timeout 300 \
+    ctest --test-dir build/fuzz --parallel "$(jobCount)" --tests-regex '^Fuzz\.' --no-tests=error --timeout $((seconds + 300)) \
         --output-on-failure --output-junit "$record" </dev/null || code=$?
+    if [ "$seconds" != 0 ]; then cp build/fuzz/Testing/Temporary/LastTest.log build/long/fuzz.log; fi
     addCTestCount "$record" || code=1
     everyTargetHasTest "$@"
     return "$code"
 }
 
 useSanitizerOptions
-cmake --preset fuzz
+cmake --preset fuzz -DLUMO_FUZZ_SECONDS="$seconds"
 names=$(targets)
 [ -n "$names" ] || die "there is no target named lumo_fuzz_… to run."
 # shellcheck disable=SC2086  # lists of names

@@ -2,7 +2,7 @@
 # tests.sh dev|asan|tsan: builds the preset of that name and runs all its tests.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-for piece in say system display count sanitizers; do
+for piece in say system display count sanitizers private; do
     # shellcheck source=/dev/null
     . "scripts/$piece.sh"
 done
@@ -15,18 +15,9 @@ configure() {
     cmake --preset "$preset" "${options[@]}"
 }
 
-# Tests see no settings of the user's, and leave none; mocked devices listen on sockets below TMPDIR, whose paths
-# must be short.
-usePrivateFolders() {
-    private=$(mktemp -d /tmp/lumo-XXXXXX)
-    mkdir -m 700 "$private/run"
-    export TMPDIR=/tmp XDG_RUNTIME_DIR="$private/run"
-    export XDG_CONFIG_HOME="$private/config" XDG_CACHE_HOME="$private/cache" XDG_DATA_HOME="$private/data"
-}
-
 cleanUp() {
     stopDisplay
-    if [ -n "${private:-}" ]; then rm -rf "$private"; fi
+    dropPrivateFolders
 }
 
 runTests() {

@@ -24,6 +24,11 @@ def nodes():
     return found
 
 
+def count():
+    """How many nodes there are, whosever they are."""
+    return len(glob.glob("/sys/class/hidraw/hidraw*"))
+
+
 def settled():
     """The nodes once the device manager has dealt with them, else none."""
     there = nodes()

@@ -7,6 +7,7 @@ import sys
 import chapter_faults
 import chapter_life
 import chapter_lighting
+import chapter_misbehaving
 import chapter_music
 import chapter_quitting
 import chapter_remap
@@ -30,7 +31,8 @@ def keyboards():
     usb, uhid = f"{BIN}/lumo-usbip-keyboard", f"{BIN}/lumo-uhid-keyboard"
     programs = {"rights": (usb, CABLE), "rights-receiver": (usb, RECEIVER), "usb": (usb, CABLE),
                 "lighting": (usb, CABLE), "remap": (usb, CABLE), "music": (usb, RECEIVER), "settings": (usb, CABLE),
-                "uhid": (uhid, RECEIVER), "hanging-set": (usb, RECEIVER), "hanging-get": (usb, CABLE)}
+                "uhid": (uhid, RECEIVER), "faults": (usb, CABLE), "another": (usb, RECEIVER),
+                "hanging-set": (usb, RECEIVER), "hanging-get": (usb, CABLE)}
     return {chapter: Keyboard(program, f"{LOGS}/{chapter}.jsonl", name=f"Lumo <{chapter}> ü", **ids)
             for chapter, (program, ids) in programs.items()}
 
@@ -51,6 +53,8 @@ def tell_as_user(checks, boards):
     chapter("Music page", "music", chapter_music.tell)
     chapter("Settings page", "settings", chapter_settings.tell)
     chapter("HID keyboard without a bus", "uhid", chapter_life.tell)
+    chapter("Faults in the window", "faults",
+            functools.partial(chapter_misbehaving.tell, another=boards["another"]))
     for board, hang in (("hanging-set", "set 8a hang"), ("hanging-get", "get 8a hang")):
         chapter(f"Quitting while \"{hang}\"", board, functools.partial(chapter_quitting.tell, hang=hang))
 

@@ -7,8 +7,6 @@
 #include <cerrno>
 #include <system_error>
 
-#include "usbip/VhciPort.h"
-
 namespace lumo::vk {
 
 UsbipKeyboard::UsbipKeyboard(const DaemonOptions& options, LoggedFirmware& firmware) : m_unplugged(options, firmware) {}
@@ -20,7 +18,7 @@ void UsbipKeyboard::plug() {
     }
     m_connection.emplace(ends[0], m_unplugged);
     try {
-        attachToVhci(ends[1]);
+        m_port.attach(ends[1]);
     } catch (...) {
         m_connection.reset();
         ::close(ends[1]);

@@ -5,6 +5,7 @@
 
 #include "daemon/KernelKeyboard.h"
 #include "usbip/UsbipConnection.h"
+#include "usbip/VhciPort.h"
 
 namespace lumo::vk {
 
@@ -21,6 +22,7 @@ public:
 
 private:
     UsbDevice m_unplugged;  // as it comes out of the box: nothing configured
+    VhciPort m_port;
     std::optional<UsbipConnection> m_connection;
 };
 

@@ -3,10 +3,13 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <fstream>
 #include <string>
 #include <system_error>
+#include <thread>
 
 namespace lumo::vk {
 namespace {
@@ -21,24 +24,22 @@ constexpr unsigned kDeviceId = 1U << 16 | 2U;  // bus and device number at the f
 
 }  // namespace
 
-std::optional<unsigned> firstFreePort(std::istream& status) {
+std::vector<unsigned> freePorts(std::istream& status) {
+    std::vector<unsigned> ports;
     std::string line;
     std::getline(status, line);  // headings
     std::string hub;
     unsigned port = 0;
     unsigned state = 0;
     while (status >> hub >> std::dec >> port >> state && std::getline(status, line)) {
-        if (hub == "hs" && state == kPortIsFree) return port;
+        if (hub == "hs" && state == kPortIsFree) ports.push_back(port);
     }
-    return std::nullopt;
+    return ports;
 }
 
-void attachToVhci(int hostSocket) {
-    std::ifstream status(kStatusPath);
-    if (!status) fail(ENODEV, kStatusPath);
-    const auto port = firstFreePort(status);
-    if (!port) fail(EBUSY, "vhci_hcd has no free port");
-    const std::string text = std::to_string(*port) + ' ' + std::to_string(hostSocket) + ' ' +
+void VhciPort::attach(int hostSocket) {
+    m_number = freeNumber();
+    const std::string text = std::to_string(*m_number) + ' ' + std::to_string(hostSocket) + ' ' +
                              std::to_string(kDeviceId) + ' ' + std::to_string(kFullSpeed);
     const int attach = ::open(kAttachPath, O_WRONLY | O_CLOEXEC);
     if (attach < 0) fail(errno, kAttachPath);
@@ -46,6 +47,21 @@ void attachToVhci(int hostSocket) {
     const int error = errno;
     ::close(attach);
     if (written < 0) fail(error, kAttachPath);
+}
+
+unsigned VhciPort::freeNumber() const {
+    constexpr auto kPatience = std::chrono::seconds(5);
+    const auto end = std::chrono::steady_clock::now() + kPatience;
+    for (;;) {
+        std::ifstream status(kStatusPath);
+        if (!status) fail(ENODEV, kStatusPath);
+        const std::vector<unsigned> ports = freePorts(status);
+        if (m_number && std::ranges::find(ports, *m_number) != ports.end()) return *m_number;
+        const bool isOwnAwaited = m_number && std::chrono::steady_clock::now() < end;
+        if (!isOwnAwaited && !ports.empty()) return ports.front();
+        if (!isOwnAwaited) fail(EBUSY, "vhci_hcd has no free port");
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
 }
 
 }  // namespace lumo::vk

@@ -3,15 +3,27 @@
 
 #include <istream>
 #include <optional>
+#include <vector>
 
 namespace lumo::vk {
 
-/// The first free high-speed port in the text of vhci_hcd's "status" file; full-speed devices go there too.
-/// Absent when all are taken or the text is none.
-[[nodiscard]] std::optional<unsigned> firstFreePort(std::istream& status);
+/// The free high-speed ports in the text of vhci_hcd's "status" file; full-speed devices go there too. Empty when all
+/// are taken or the text is none.
+[[nodiscard]] std::vector<unsigned> freePorts(std::istream& status);
 
-/// Gives the kernel the host's end of a stream socket; it keeps its own reference. Throws std::system_error
-/// when vhci_hcd is not loaded, has no free port, or refuses.
-void attachToVhci(int hostSocket);
+/// A keyboard keeps the port that it was plugged into first, as one that is plugged again into the same socket: only
+/// so has the kernel put the old device away before the new one comes.
+class VhciPort final {
+public:
+    /// Gives the kernel the host's end of a stream socket; it keeps its own reference. Waits up to 5 s for the port
+    /// to be free again, and then takes another. Throws std::system_error when vhci_hcd is not loaded, has no free
+    /// port, or refuses.
+    void attach(int hostSocket);
+
+private:
+    [[nodiscard]] unsigned freeNumber() const;
+
+    std::optional<unsigned> m_number;
+};
 
 }  // namespace lumo::vk
