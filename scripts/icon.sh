@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the icon of the macOS bundle anew from the picture of the program. For whoever changes that picture: on Debian,
-# after scripts/artwork.sh.
+# Makes the icons of the macOS bundle and of Linux desktops anew from the picture of the program. For whoever changes
+# that picture: on Debian, after scripts/artwork.sh.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 for piece in say system install; do
@@ -9,6 +9,8 @@ for piece in say system install; do
 done
 picture=vexa_lumo_macos/assets/appicon.png
 icon=packaging/macos/vexa-lumo-65.icns
+desktopIcons=packaging/linux/icons
+desktopSizes=(16 32 48 64 128 256 512)
 
 # Kind and pixels of each PNG in the file. ic11 to ic14 are what a screen of scale 2 shows for 16, 32, 128 and 256
 # points, ic10 is so for 512. A plain 16 the system scales itself.
@@ -23,13 +25,19 @@ chunk() {
     cat "$2"
 }
 
+# drawIcon PIXELS FILE
+drawIcon() { convert "$picture" -resize "$1x$1" -strip "png32:$2"; }
+
 needDebs imagemagick
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 for element in "${elements[@]}"; do
     size=${element#*:}
-    convert "$picture" -resize "${size}x$size" -strip "png32:$folder/picture"
+    drawIcon "$size" "$folder/picture"
     chunk "${element%:*}" "$folder/picture" >>"$folder/contents"
 done
 chunk icns "$folder/contents" >"$icon"
 note "$icon has ${#elements[@]} pictures."
+mkdir -p "$desktopIcons"
+for size in "${desktopSizes[@]}"; do drawIcon "$size" "$desktopIcons/$size.png"; done
+note "$desktopIcons has ${#desktopSizes[@]} pictures."

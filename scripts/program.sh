@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Builds and finds the programs that ./run starts. Sourced after say.sh, in the root of the repository, with
+# Builds and finds the programs as users have them. Sourced after say.sh, in the root of the repository, with
 # runDirectory set.
 : "${runDirectory:?}"
 
@@ -11,10 +11,11 @@ configureProgram() {
     cmake --preset release -B "$runDirectory" -DBUILD_TESTING=OFF -DLUMO_STRICT=OFF ${prefix[@]+"${prefix[@]}"}
 }
 
+# buildProgram TARGET…
 buildProgram() {
-    say "Building $1"
+    say "Building $*"
     configureProgram
-    cmake --build "$runDirectory" --target "$1" --parallel "$(jobCount)"
+    cmake --build "$runDirectory" --target "$@" --parallel "$(jobCount)"
 }
 
 # On macOS a program may come as a bundle.

@@ -179,7 +179,7 @@ target_link_libraries(vexa-lumo-65 PRIVATE lumo_ui lumo_options)
 if(APPLE)
     include(${PROJECT_SOURCE_DIR}/packaging/macos/bundle.cmake)
 else()
-    install(TARGETS vexa-lumo-65 DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(TARGETS vexa-lumo-65 DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT program)
     install(DIRECTORY ${PROJECT_SOURCE_DIR}/vexa_lumo_macos/assets/ DESTINATION ${CMAKE_INSTALL_DATADIR}/vexa-lumo-65
         COMPONENT artwork PATTERN svg EXCLUDE)
 endif()

@@ -3,7 +3,9 @@
 # the kernel cannot be had.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
-for piece in say system; do
+# shellcheck disable=SC2034  # program.sh builds there: what ./run starts, and no second copy of it
+runDirectory=build/run
+for piece in say system program; do
     # shellcheck source=/dev/null
     . "scripts/$piece.sh"
 done
@@ -13,7 +15,7 @@ if isMac; then
     exit 77
 fi
 # What users install, and in an emulated machine only that is quick enough to paint the keyboard at every frame.
-cmake --preset release -DCMAKE_CXX_COMPILER=g++
-cmake --build build/release --parallel "$(jobCount)" --target vexa-lumo-65 lumo-fault-matrix \
-    lumo-usbip-keyboard lumo-uhid-keyboard
-exec tests/vm/run_vm.sh build/release build/kernel
+configureProgram
+cmake -B "$runDirectory" -DBUILD_TESTING=ON  # one of them is a test
+buildProgram vexa-lumo-65 vexa-lumo-65-interface lumo-fault-matrix lumo-usbip-keyboard lumo-uhid-keyboard
+exec tests/vm/run_vm.sh "$runDirectory" build/kernel

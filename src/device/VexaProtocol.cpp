@@ -3,12 +3,13 @@
 #include <chrono>
 #include <utility>
 
+#include "device/ConfigurationInterface.h"
+
 namespace lumo {
 namespace {
 
 using namespace std::chrono_literals;
 
-constexpr std::int64_t kConfigurationReportSize = 520;  // only the configuration interface has one as large
 constexpr std::array<std::uint8_t, 7> kHandshakeQuery{0x06, 0x82, 0x01, 0x00, 0x01, 0x00, 0x06};
 constexpr std::uint8_t kHandshakeAnswer = 0x82;
 constexpr std::size_t kHandshakeAnswerSize = 8;
@@ -29,7 +30,7 @@ void VexaProtocol::checkConnectedDevices() {
 }
 
 void VexaProtocol::deviceMatched(const std::shared_ptr<HidDevice>& device) {
-    if (device->maxFeatureReportSize().value_or(0) < kConfigurationReportSize) return;
+    if (!isConfigurationInterface(device->maxFeatureReportSize())) return;
     m_device.replace(device);
     m_main.run.post([this, device] {
         isConnected.set(true);

@@ -58,14 +58,24 @@ TEST(UdevRule, NamesTheKeyboardAndItsReceiverAsTheInstalledFileDoes) {
     EXPECT_EQ(idsIn(installedFile(), inFile), both);
 }
 
-TEST(UdevRule, GrantsAccessUnderTheConditionsOfTheInstalledFile) {
+TEST(UdevRule, OpensOnlyWhatCannotType) {
+    const Texts conditions = conditionsOf(std::string(kUdevRule));
+    for (const char* const one : {"ATTRS{bInterfaceProtocol}==\"00\"", "TEST!=\"device/input\"", "TAG+=\"uaccess\""})
+        EXPECT_TRUE(conditions.contains(one)) << one;
+}
+
+TEST(InstalledUdevRule, OpensOnlyTheInterfaceThatIsFoundToTakeTheConfiguration) {
     const std::string file = installedFile();
-    std::smatch grant;
-    ASSERT_TRUE(std::regex_search(file, grant, std::regex("\n([^#\n]*TAG\\+=\"uaccess\"[^\n]*)")));
-    Texts ours = conditionsOf(std::string(kUdevRule));
-    EXPECT_EQ(ours.erase("ACTION!=\"remove\"") + ours.erase("SUBSYSTEM==\"hidraw\""), 2U);  // lines of their own there
-    std::erase_if(ours, [](const std::string& condition) { return condition.starts_with("DEVPATH=="); });
-    EXPECT_EQ(ours, conditionsOf(grant[1]));
+    const std::regex grant("\n([^#\n]*TAG\\+=\"uaccess\"[^\n]*)");
+    const Texts wanted{"ENV{VEXA_LUMO_65_INTERFACE}==\"configuration\"", "TEST!=\"device/input\"", "TAG+=\"uaccess\""};
+    std::sregex_iterator found(file.begin(), file.end(), grant);
+    ASSERT_NE(found, std::sregex_iterator());
+    EXPECT_EQ(conditionsOf((*found)[1]), wanted);
+    EXPECT_EQ(++found, std::sregex_iterator());  // nothing else grants anything
+}
+
+TEST(InstalledUdevRule, AsksTheInstalledProgramByItsNameAlone) {  // udev then looks where the package puts it
+    EXPECT_NE(installedFile().find("\nIMPORT{program}=\"vexa-lumo-65-interface $sys$devpath\"\n"), std::string::npos);
 }
 
 }  // namespace

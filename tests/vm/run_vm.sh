@@ -51,7 +51,7 @@ needPrograms() {
     needCommand at-spi-bus-launcher at-spi2-core
     /usr/bin/python3 -c 'import gi; gi.require_version("Gio", "2.0")' 2>/dev/null ||
         cannotRun "Python's door to the accessibility bus is missing (package python3-gi)."
-    for program in vexa-lumo-65 lumo-fault-matrix lumo-uhid-keyboard lumo-usbip-keyboard; do
+    for program in vexa-lumo-65 vexa-lumo-65-interface lumo-fault-matrix lumo-uhid-keyboard lumo-usbip-keyboard; do
         [ -x "$build/bin/$program" ] || die "$build/bin/$program has not been built."
     done
 }

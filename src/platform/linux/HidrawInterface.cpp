@@ -1,16 +1,14 @@
 #include "platform/linux/HidrawInterface.h"
 
 #include <charconv>
-#include <span>
 #include <string_view>
 
-#include "platform/linux/ReportDescriptor.h"
+#include "platform/linux/FeatureReportSize.h"
 
 namespace lumo {
 namespace {
 
-constexpr std::size_t kPageSize = 4096;                // what sysfs gives of one text attribute
-constexpr std::size_t kLongestDescriptor = 64 * 1024;  // the kernel takes 4096 bytes today
+constexpr std::size_t kPageSize = 4096;  // what sysfs gives of one text attribute
 
 std::string pathOf(udev_device* device) {
     const char* const path = udev_device_get_syspath(device);
@@ -49,13 +47,6 @@ std::optional<std::string> productOf(udev_device* device, std::string_view hidUe
     return product;
 }
 
-std::optional<std::int64_t> featureSizeOf(const std::string& hidPath) {
-    const auto bytes = readSysfsFile(hidPath + "/report_descriptor", kLongestDescriptor);
-    if (!bytes) return std::nullopt;
-    const std::vector<std::uint8_t> descriptor(bytes->begin(), bytes->end());
-    return largestFeatureReport(descriptor);
-}
-
 }  // namespace
 
 std::optional<HidrawInterface> readHidrawInterface(udev_device* device) {
@@ -66,8 +57,8 @@ std::optional<HidrawInterface> readHidrawInterface(udev_device* device) {
     const auto uevent = readSysfsFile(hidPath + "/uevent", kPageSize);
     const auto ids = uevent ? idsFrom(ueventValue(*uevent, "HID_ID").value_or("")) : std::nullopt;
     if (!ids) return std::nullopt;
-    return HidrawInterface{pathOf(device),        nodeOf(device), *identity, *ids, productOf(device, *uevent),
-                           featureSizeOf(hidPath)};
+    return HidrawInterface{
+        pathOf(device), nodeOf(device), *identity, *ids, productOf(device, *uevent), featureReportSize(hidPath)};
 }
 
 }  // namespace lumo

@@ -2,6 +2,7 @@ find_package(PkgConfig REQUIRED)
 # Global: every program that links lumo_platform, whichever its folder, links libudev with it.
 pkg_check_modules(LUMO_UDEV REQUIRED IMPORTED_TARGET GLOBAL libudev)
 target_sources(lumo_platform PRIVATE
+    platform/linux/FeatureReportSize.cpp
     platform/linux/HidrawDevice.cpp
     platform/linux/HidrawInterface.cpp
     platform/linux/IoThread.cpp

@@ -35,7 +35,8 @@ startDeviceManager() {
     cp /usr/lib/udev/rules.d/50-udev-default.rules /usr/lib/udev/rules.d/99-systemd.rules $rules
     mount --bind $rules /usr/lib/udev/rules.d
     mount -t tmpfs tmpfs /etc/udev/rules.d
-    cp "$lumoTests/../../packaging/70-vexa-lumo-65.rules" "$lumoTests/guest/73-seat.rules" /etc/udev/rules.d
+    cp "$lumoTests/../../packaging/linux/70-vexa-lumo-65.rules" "$lumoTests/guest/73-seat.rules" /etc/udev/rules.d
+    cp "$lumoBuild/bin/vexa-lumo-65-interface" /usr/lib/udev
     /usr/lib/systemd/systemd-udevd --daemon
     udevadm control --ping
 }
@@ -45,7 +46,7 @@ startDeviceManager() {
 copyFiles() {
     local pictures=$files/share/vexa-lumo-65
     mkdir -p $files/bin $pictures
-    cp "$lumoTests"/guest/*.py $files
+    cp "$lumoTests"/guest/*.py "$lumoTests"/../../packaging/linux/post{inst,rm} $files
     cp "$lumoBuild"/bin/{vexa-lumo-65,lumo-{fault-matrix,uhid-keyboard,usbip-keyboard}} $files/bin
     cp -r "$lumoTests"/../../vexa_lumo_macos/assets/{*.png,skins} $pictures
     chmod -R a+rX $files

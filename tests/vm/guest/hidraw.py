@@ -44,9 +44,13 @@ def is_known(node):
 
 
 def tags(node):
-    shown = subprocess.run(["udevadm", "info", "--query=property", "--property=CURRENT_TAGS", "--value", node],
-                           capture_output=True, text=True, check=True).stdout
-    return set(shown.strip().strip(":").split(":")) - {""}
+    return set(known("CURRENT_TAGS", node).strip(":").split(":")) - {""}
+
+
+def known(name, node):
+    """A property that the device manager keeps of the node; empty when it has none of that name."""
+    return subprocess.run(["udevadm", "info", "--query=property", f"--property={name}", "--value", node],
+                          capture_output=True, text=True, check=True).stdout.strip()
 
 
 def owner_and_mode(node):
