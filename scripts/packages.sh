@@ -41,6 +41,9 @@ packagesForKernel() {
     printf '%s\n' xvfb xdotool dbus-daemon at-spi2-core gir1.2-glib-2.0 python3-gi python3
 }
 
+# Making the Debian packages, and what has an opinion about them.
+packagesForPackages() { printf '%s\n' dpkg-dev file gzip fakeroot lintian desktop-file-utils appstream man-db; }
+
 formulasToBuild() { printf '%s\n' cmake ninja pkg-config qt nlohmann-json; }
 
 formulasToTest() { printf '%s\n' googletest google-benchmark; }

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# setup.sh quick|vm|full: installs what the stages of that mode need.
+# setup.sh quick|vm|packages|full: installs what the stages of that mode need.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 for piece in say system packages install; do
@@ -13,6 +13,7 @@ packagesForMode() {
     packagesToBuild
     packagesToTest "$versions"
     packagesForPicture
+    case "$1" in full | packages) packagesForPackages ;; esac
 }
 
 # Without an emulator the real kernel is left out, and the whole run ends as incomplete; that is for its stage to say.
@@ -26,8 +27,8 @@ if isMac; then
     needFormulas $(formulasToBuild) $(formulasToTest)
     exit 0
 fi
-packages=$(packagesForMode)
+packages=$(packagesForMode "$1")
 # shellcheck disable=SC2086  # a list of names
 needDebs $packages
-if [ "$1" != quick ]; then installKernelPackages; fi
+case "$1" in full | vm) installKernelPackages ;; esac
 note "Everything needed is installed."
