@@ -29,13 +29,18 @@ function(lumo_install_compressed file name destination component)
     install(FILES ${compressed} DESTINATION ${destination} COMPONENT ${component})
 endfunction()
 
-lumo_install_compressed(${lumo_linux}/vexa-lumo-65.1 vexa-lumo-65.1 ${CMAKE_INSTALL_MANDIR}/man1 program)
+function(lumo_install_manual name component)
+    lumo_install_compressed(${lumo_linux}/man/${name}.1 ${name}.1 ${CMAKE_INSTALL_MANDIR}/man1 ${component})
+endfunction()
+
+lumo_install_manual(vexa-lumo-65 program)
+foreach(tool vexa-lumo-65-demo vexa-lumo-65-tour lumo-uhid-keyboard lumo-usbip-keyboard)
+    lumo_install_manual(${tool} developer)
+    install(TARGETS ${tool} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT developer)
+endforeach()
 foreach(package IN ITEMS "vexa-lumo-65 program" "vexa-lumo-65-tools developer")
     separate_arguments(package)
     list(POP_FRONT package name component)
     lumo_install_compressed(${lumo_linux}/changelog changelog ${lumo_doc}/${name} ${component})
     install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION ${lumo_doc}/${name} COMPONENT ${component} RENAME copyright)
 endforeach()
-
-install(TARGETS vexa-lumo-65-demo vexa-lumo-65-tour lumo-uhid-keyboard lumo-usbip-keyboard
-    DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT developer)

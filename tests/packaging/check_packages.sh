@@ -44,8 +44,14 @@ belongsToRoot() { ! dpkg-deb --contents "$1" | grep -vE '^(d|-)rw[x-]r-[x-]r-[x-
 
 hasNoLintianErrors() { lintian --allow-root --fail-on error "$1"; }
 
-# What nroff has to say against a page goes to the console.
-manualIsClean() { [ -z "$(man --warnings -E UTF-8 -l -Tutf8 -Z "$source/packaging/linux/vexa-lumo-65.1" 2>&1 >/dev/null)" ]; }
+# What man has to say against a page goes to the console. Started in the folder of all manuals, as it is when installed.
+manualsAreClean() {
+    local page said
+    for page in "$root"/usr/share/man/man1/*.1.gz; do
+        said=$(cd "$root/usr/share/man" && man --warnings -E UTF-8 -l -Tutf8 -Z "$page" 2>&1 >/dev/null)
+        [ -z "$said" ] || { echo "$page: $said" && return 1; }
+    done
+}
 
 # The packages' scripts run outside the root, where there is no shell for them, and are told so. What the packages depend
 # on is not there.
@@ -94,12 +100,12 @@ check "the menu entry is valid" desktop-file-validate "$source/packaging/linux/c
 check "the metainfo is valid" appstreamcli validate --no-net "$source/packaging/linux/com.vexalumo.lumo65.metainfo.xml"
 check "the metainfo tells the version of the package" \
     grep -qF "<release version=\"$(control "$programPackage" Version)\"" "$source/packaging/linux/com.vexalumo.lumo65.metainfo.xml"
-check "the manual page can be set" manualIsClean
 makeRoot
 check "both packages can be installed" scratchDpkg --install "$programPackage" "$toolsPackage"
 check "the menu entry names a program and an icon that are there" menuEntryIsWhole
 check "the icons have the sizes of their folders" iconsHaveTheirSizes
 check "the udev rule finds its program" ruleFindsItsProgram
+check "the manual pages can be set" manualsAreClean
 check "both packages can be removed" scratchDpkg --remove vexa-lumo-65-tools vexa-lumo-65
 check "nothing is left of them" nothingIsLeft
 addCount "$passed" "$failed"
