@@ -10,7 +10,7 @@ runQemu() {
     qemu-system-x86_64 -accel tcg,thread=multi -cpu max -M q35 -smp 2 -m 2048 \
         -nodefaults -no-user-config -display none -no-reboot -nic none \
         -kernel "$kernelTree/vmlinux" -initrd "$work/initrd.cpio" \
-        -append "console=ttyS0 quiet panic=-1 random.trust_cpu=on mitigations=off nokaslr audit=0" \
+        -append "console=ttyS0 quiet panic=-1 random.trust_cpu=on mitigations=off nokaslr no_timer_check audit=0" \
         -serial "file:$work/console.log" \
         -virtfs local,path=/,mount_tag=hostroot,security_model=none,readonly=on,multidevs=remap \
         -virtfs "local,path=$out,mount_tag=out,security_model=none,multidevs=remap" </dev/null &
