@@ -12,7 +12,7 @@ enum class Disturbance {
     transferFails,    // refused or never answered
     answerIsAnother,  // the answer to a get has another length or command
     keyboardGoes,     // in the middle of the transfer
-    keyboardBlinks,   // the same, and back within 10 ms
+    keyboardBlinks,   // the same, and back as soon as it can be
     anotherComes,     // a second keyboard, right behind the transfer
     isGoneBefore,     // unplugged before the command is given
     goesAfter,        // unplugged when the command is over
