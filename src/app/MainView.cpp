@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QShortcut>
 #include <QWindow>
 #include <algorithm>
 #include <chrono>
@@ -87,6 +88,7 @@ MainView::MainView(QAction* quit, QWidget* parent)
       m_stateChanges(m_state.observe([this] { m_refresh.request(); })),
       m_permissionChanges(m_permissions.observe([this] { m_permissionRefresh.request(); })) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    for (const NavTab tab : kAllTabs) makeShortcut(tab);
     new FocusRing(*this);
     connect(m_header, &HeaderBar::profileChosen, this, &MainView::switchProfile);
     connect(m_navigation, &NavigationBar::chosen, this, [this](NavTab tab) { m_state.currentTab.set(tab); });
@@ -94,6 +96,14 @@ MainView::MainView(QAction* quit, QWidget* parent)
     refresh();
     // A turn later, behind the first check of the grants: the prompts that it takes away again never come up.
     m_permissionRefresh.request();
+}
+
+/// Control and the page's number; Qt's name for Command on macOS. A popup keeps all keys to itself.
+void MainView::makeShortcut(NavTab tab) {
+    const QKeySequence keys(static_cast<int>(Qt::CTRL) | (Qt::Key_0 + static_cast<int>(rawValue(tab))));
+    connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, tab] {
+        if (!m_welcome->isShown() && !m_recheck->isShown()) m_state.currentTab.set(tab);
+    });
 }
 
 void MainView::switchProfile(std::int64_t number) {

@@ -39,6 +39,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void makeShortcut(NavTab tab);
     void switchProfile(std::int64_t number);
     void showTab(NavTab tab);
     void showPermissions();

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
@@ -51,6 +52,25 @@ TEST_F(Navigation, AFreshWindowShowsTheLightingPageAndTheFirstProfile) {
     EXPECT_THAT(selectedTabs(), ElementsAre("Lighting Effect"));
     EXPECT_THAT(selectedProfiles(), ElementsAre("Profile 1"));
     EXPECT_NE(lightingPage(), nullptr);
+}
+
+TEST_F(Navigation, ControlAndADigitChooseThePageOfThatNumber) {
+    QApplication::setActiveWindow(view.get());
+    for (const NavTab tab : {NavTab::settings, NavTab::music, NavTab::macro, NavTab::keyAssign, NavTab::lighting}) {
+        QTest::keyClick(view.get(), static_cast<Qt::Key>(Qt::Key_0 + static_cast<int>(tab)), Qt::ControlModifier);
+        time.settle();
+        EXPECT_EQ(state().currentTab.get(), tab);
+    }
+    EXPECT_THAT(selectedTabs(), ElementsAre("Lighting Effect"));
+}
+
+TEST_F(Navigation, ADigitAloneOrAnotherOneChoosesNothing) {
+    QApplication::setActiveWindow(view.get());
+    QTest::keyClick(view.get(), Qt::Key_1);
+    QTest::keyClick(view.get(), Qt::Key_6, Qt::ControlModifier);
+    QTest::keyClick(view.get(), Qt::Key_0, Qt::ControlModifier);
+    time.settle();
+    EXPECT_EQ(state().currentTab.get(), NavTab::lighting);
 }
 
 TEST_F(Navigation, APillChoosesItsPageAndNothingElse) {

@@ -39,6 +39,18 @@ TEST_F(PromptFocus, MovesIntoThePopupWhenItOpens) {
     EXPECT_EQ(focusedName(), "Grant Permissions");
 }
 
+TEST_F(PromptFocus, PagesCannotBeChosenByKeysBehindAPopup) {
+    showFirstLaunch();
+    activate();
+    key(Qt::Key_5, Qt::ControlModifier);
+    EXPECT_EQ(state().currentTab.get(), NavTab::lighting);
+    permissions().completeFirstLaunch();
+    time.advance(Duration{0});
+    waitForFades();
+    key(Qt::Key_5, Qt::ControlModifier);
+    EXPECT_EQ(state().currentTab.get(), NavTab::settings);
+}
+
 TEST_F(PromptFocus, StaysInside) {
     showFirstLaunch();
     activate();
