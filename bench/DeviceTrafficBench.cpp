@@ -4,14 +4,17 @@
 
 #include <QApplication>
 #include <QEventLoop>
-#include <array>
+#include <algorithm>
 #include <chrono>
+#include <iterator>
 #include <string>
+#include <vector>
 
 #include "app/AppDelegate.h"
 #include "app/SharedObjects.h"
 #include "controls/Theme.h"
 #include "demo/DemoPlatform.h"
+#include "faults/FaultCase.h"
 
 namespace lumo {
 namespace {
@@ -79,31 +82,37 @@ void lightingCommand(benchmark::State& state) {
 }
 BENCHMARK(lightingCommand)->UseManualTime()->Iterations(50)->Unit(benchmark::kMillisecond);
 
-/// The exchanges of handshake and lighting command, in their order.
-constexpr auto kHangs = std::to_array<std::string_view>({
-    "set any hang once",         // handshake query
-    "get any hang once",         // its answer
-    "set any hang skip 1 once",  // query of the colour block
-    "get any hang skip 1 once",  // its answer
-    "set any hang skip 2 once",  // colour block
-    "set any hang skip 3 once",  // query of the parameter block
-    "get any hang skip 2 once",  // its answer
-    "set any hang skip 4 once",  // parameter block
-});
+/// One for each transfer of each command.
+const std::vector<test::FaultCase>& hangs() {
+    static const std::vector<test::FaultCase> cases = [] {
+        std::vector<test::FaultCase> found;
+        std::ranges::copy_if(test::allFaultCases(), std::back_inserter(found),
+                             [](const test::FaultCase& one) { return one.fault.kind == "hang"; });
+        return found;
+    }();
+    return cases;
+}
 
+/// A command that hangs at one of its transfers, with others queued behind it. The handshake is measured from the start
+/// of the program on.
 void gapWhileHanging(benchmark::State& state) {
-    const std::string_view fault = kHangs.at(static_cast<std::size_t>(state.range(0)));
+    const test::FaultCase& hang = hangs().at(static_cast<std::size_t>(state.range(0)));
     double longest = 0.0;
     for ([[maybe_unused]] auto turn : state) {
-        RunningProgram program(fault);
-        program.link().setLightingMode(5);
-        longest = std::max(longest, program.longestGap(2s));
+        RunningProgram program(hang.faultLine());
+        if (hang.command) program.runUntilStatus("Connected & Authenticated");
+        program.loop().post([&] {
+            if (hang.command) hang.command->act(SharedObjects::current());
+            for (auto left = state.range(1); left > 0; --left) program.link().setLightingMode(5);
+        });
+        longest = std::max(longest, program.longestGap(1s));
         state.SetIterationTime(longest);
     }
-    state.SetLabel(std::string(fault));
+    state.SetLabel(hang.name());
 }
 BENCHMARK(gapWhileHanging)
-    ->DenseRange(0, static_cast<int>(kHangs.size()) - 1)
+    ->ArgNames({"", "queued"})
+    ->ArgsProduct({benchmark::CreateDenseRange(0, static_cast<int>(hangs().size()) - 1, 1), {0, 200}})
     ->UseManualTime()
     ->Iterations(1)
     ->Unit(benchmark::kMillisecond);

@@ -38,7 +38,7 @@ packagesToTest() {
 # screen in memory whose accessibility tree can be read.
 packagesForKernel() {
     printf '%s\n' qemu-system-x86 qemu-system-data seabios busybox-static kmod cpio xz-utils udev
-    printf '%s\n' xvfb xdotool dbus-daemon at-spi2-core gir1.2-glib-2.0 python3-gi python3
+    printf '%s\n' strace xvfb xdotool libxtst6 dbus-daemon at-spi2-core gir1.2-glib-2.0 python3-gi python3
 }
 
 # Making the Debian packages, and what has an opinion about them.

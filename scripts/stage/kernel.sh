@@ -16,6 +16,7 @@ if isMac; then
 fi
 # What users install, and in an emulated machine only that is quick enough to paint the keyboard at every frame.
 configureProgram
-cmake -B "$runDirectory" -DBUILD_TESTING=ON  # one of them is a test
-buildProgram vexa-lumo-65 vexa-lumo-65-interface lumo-fault-matrix lumo-usbip-keyboard lumo-uhid-keyboard
+cmake -B "$runDirectory" -DBUILD_TESTING=ON  # two of them are tests
+buildProgram vexa-lumo-65 vexa-lumo-65-interface lumo-fault-matrix lumo-usbip-keyboard lumo-uhid-keyboard \
+    lumo-turn-probe
 exec tests/vm/run_vm.sh "$runDirectory" build/kernel

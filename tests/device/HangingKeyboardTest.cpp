@@ -137,6 +137,21 @@ TEST_P(HangingKeyboard, LeavesTheMainLoopTurning) {
     EXPECT_TRUE(device->isParked());
 }
 
+TEST_P(HangingKeyboard, LeavesTheMainLoopTurningWhateverWaitsBehindIt) {
+    giveCommandsUntilItHangs();
+    for (int i = 0; i < 200; ++i) {
+        objects.vexaProtocol().setLightingMode(1 + i % 20);
+        platform.loop.turn();
+    }
+    bool ran = false;
+    platform.loop.post([&] { ran = true; });
+    platform.loop.turn();
+    EXPECT_TRUE(ran);
+    EXPECT_EQ(objects.vexaProtocol().activeModeId.get(), 20);
+    EXPECT_TRUE(device->isParked());
+    EXPECT_EQ(device->exchanges(), GetParam() + 1);
+}
+
 TEST_P(HangingKeyboard, IsNotWaitedForWhenQuitting) {
     giveCommandsUntilItHangs();
     objects.stopDeviceTraffic();  // returns while the exchange is still under way

@@ -47,6 +47,8 @@ needPrograms() {
     needCommand udevadm udev
     needCommand Xvfb xvfb
     needCommand xdotool xdotool
+    ldconfig -p | grep -q 'libXtst\.so\.6' || cannotRun "keys cannot be sent quickly (package libxtst6)."
+    needCommand strace strace
     needCommand dbus-daemon dbus-daemon
     needCommand at-spi-bus-launcher at-spi2-core
     /usr/bin/python3 -c 'import gi; gi.require_version("Gio", "2.0")' 2>/dev/null ||
@@ -54,6 +56,7 @@ needPrograms() {
     for program in vexa-lumo-65 vexa-lumo-65-interface lumo-fault-matrix lumo-uhid-keyboard lumo-usbip-keyboard; do
         [ -x "$build/bin/$program" ] || die "$build/bin/$program has not been built."
     done
+    [ -f "$build/probe/generic/lumo-turn-probe.so" ] || die "the probe of the main loop has not been built."
 }
 
 # What the scenario found, as "PASSED FAILED"; a scenario that never came to its count has found nothing.

@@ -5,12 +5,13 @@ import subprocess
 
 
 class Application:
-    def __init__(self, program, console):
+    def __init__(self, program, console, *, environment=None, watched_by=()):
+        """`watched_by`: a command before the program, which becomes the program itself."""
         self._console = console
-        environment = dict(os.environ, QT_QPA_PLATFORM="xcb", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        wanted = {"QT_QPA_PLATFORM": "xcb", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", **(environment or {})}
         with open(console, "wb") as output:
-            self._process = subprocess.Popen([program], env=environment, stdin=subprocess.DEVNULL, stdout=output,
-                                             stderr=subprocess.STDOUT)
+            self._process = subprocess.Popen([*watched_by, program], env=dict(os.environ, **wanted),
+                                             stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT)
 
     @property
     def pid(self):
@@ -46,10 +47,6 @@ class Application:
         found = subprocess.run(["xdotool", "search", "--all", "--onlyvisible", "--pid", str(self.pid), "--name",
                                 "^Vexa Lumo 65$"], capture_output=True, text=True, timeout=120, check=False)
         return found.stdout.split()
-
-    def press_quit_keys(self):
-        """Ctrl+Q as from a keyboard."""
-        subprocess.run(["xdotool", "key", "ctrl+q"], timeout=120, check=True)
 
     def focus(self):
         """Nobody here hands out the focus but us."""

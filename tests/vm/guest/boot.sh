@@ -48,6 +48,7 @@ copyFiles() {
     mkdir -p $files/bin $pictures
     cp "$lumoTests"/guest/*.py "$lumoTests"/../../packaging/linux/post{inst,rm} $files
     cp "$lumoBuild"/bin/{vexa-lumo-65,lumo-{fault-matrix,uhid-keyboard,usbip-keyboard}} $files/bin
+    cp -r "$lumoBuild/probe" $files
     cp -r "$lumoTests"/../../vexa_lumo_macos/assets/{*.png,skins} $pictures
     chmod -R a+rX $files
 }

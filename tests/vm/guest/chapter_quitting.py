@@ -17,8 +17,7 @@ def tell(checks, window, application, keyboard, hang):
 
     begin = time.monotonic()
     owed = begins_an_exchange(checks, window, application, keyboard)
-    application.press_quit_keys()
-    checks.eventually("the window goes", application.windows, lambda windows: not windows)
+    stories.quits(checks, application)
     is_under_way = application.is_inside_an_exchange()
     if not is_under_way and time.monotonic() - begin >= KERNEL_PATIENCE_SECONDS:
         raise TryAgain("the kernel gave up the exchange before the window was looked at")
@@ -31,7 +30,7 @@ def tell(checks, window, application, keyboard, hang):
 def begins_an_exchange(checks, window, application, keyboard):
     """Returns how many transfers there were, with the one that gets no answer."""
     before = len(keyboard.transfers())
-    checks.check("the row \"Raindrops\" can be chosen", window.choose("Raindrops"))
+    checks.check(f"the row \"{stories.STILL}\" can be chosen", window.choose(stories.STILL))
     transfers = checks.eventually("the keyboard owes an answer", lambda: keyboard.transfers()[before:],
                                   lambda begun: begun and not begun[-1].accepted)
     checks.check("the exchange is under way", application.is_inside_an_exchange())

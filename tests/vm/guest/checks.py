@@ -27,6 +27,10 @@ class Checks:
         print(f"{'PASS' if holds else 'FAIL'}  {what}" + (f": {detail}" if detail and not holds else ""), flush=True)
         return bool(holds)
 
+    def note(self, what):
+        """A figure that decides nothing."""
+        print(f"      {what}", flush=True)
+
     def equal(self, what, found, expected):
         return self.check(what, found == expected, f"found {found!r}, expected {expected!r}")
 

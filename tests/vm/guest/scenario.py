@@ -4,6 +4,7 @@ import functools
 import os
 import sys
 
+import chapter_alive
 import chapter_faults
 import chapter_life
 import chapter_lighting
@@ -13,8 +14,11 @@ import chapter_quitting
 import chapter_remap
 import chapter_rights
 import chapter_settings
+import chapter_traced
 import desktop
 import hidraw
+import syscalls
+import turns
 from application import Application
 from checks import Checks
 from keyboard import Keyboard
@@ -32,6 +36,7 @@ def keyboards():
     programs = {"rights": (usb, CABLE), "rights-receiver": (usb, RECEIVER), "usb": (usb, CABLE),
                 "lighting": (usb, CABLE), "remap": (usb, CABLE), "music": (usb, RECEIVER), "settings": (usb, CABLE),
                 "uhid": (uhid, RECEIVER), "faults": (usb, CABLE), "another": (usb, RECEIVER),
+                "traced": (usb, CABLE), "alive": (usb, CABLE),
                 "hanging-set": (usb, RECEIVER), "hanging-get": (usb, CABLE)}
     return {chapter: Keyboard(program, f"{LOGS}/{chapter}.jsonl", name=f"Lumo <{chapter}> ü", **ids)
             for chapter, (program, ids) in programs.items()}
@@ -44,9 +49,14 @@ def tell_as_root(checks, boards):
 
 
 def tell_as_user(checks, boards):
-    def chapter(title, board, tell):
-        checks.chapter(title, lambda: with_application(checks, board, boards[board], tell))
+    def chapter(title, board, tell, **launch):
+        checks.chapter(title, lambda: with_application(checks, board, boards[board], tell, **launch))
 
+    probe = turns.Probe(f"{BIN}/../probe", f"{LOGS}/turns.txt")
+    log = syscalls.Log(f"{LOGS}/trace")
+
+    chapter("Rights of the running program", "traced", functools.partial(chapter_traced.tell, log=log),
+            watched_by=log.command)
     chapter("USB keyboard", "usb", chapter_life.tell)
     chapter("Lighting page", "lighting", chapter_lighting.tell)
     chapter("Remap page", "remap", chapter_remap.tell)
@@ -55,13 +65,15 @@ def tell_as_user(checks, boards):
     chapter("HID keyboard without a bus", "uhid", chapter_life.tell)
     chapter("Faults in the window", "faults",
             functools.partial(chapter_misbehaving.tell, another=boards["another"]))
+    chapter("Alive while the keyboard hangs", "alive", functools.partial(chapter_alive.tell, probe=probe),
+            environment=probe.environment)
     for board, hang in (("hanging-set", "set 8a hang"), ("hanging-get", "get 8a hang")):
         chapter(f"Quitting while \"{hang}\"", board, functools.partial(chapter_quitting.tell, hang=hang))
 
 
-def with_application(checks, name, keyboard, tell):
+def with_application(checks, name, keyboard, tell, **launch):
     checks.eventually("no keyboard is left from before", hidraw.nodes, lambda nodes: not nodes)
-    application = Application(f"{BIN}/vexa-lumo-65", f"{LOGS}/{name}.console.txt")
+    application = Application(f"{BIN}/vexa-lumo-65", f"{LOGS}/{name}.console.txt", **launch)
     try:
         tell(checks, Window(application), application, keyboard)
     finally:

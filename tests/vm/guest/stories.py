@@ -4,10 +4,13 @@ import os
 
 import expected
 import hidraw
+from screen import Screen
 
 DISCONNECTED = "Simulated / Disconnected"
 HANDSHAKE_LINE = "[VexaProtocol] Handshake verified with hardware!"
 LAUNCHED = "[General]\nVexaLumoHasLaunchedBefore=true\n"
+STILL = "Fixed_on (Static)"  # an effect that does not move: nothing of it is painted again and again
+QUITS_WITHIN_MS = 500
 MS = 1000
 
 
@@ -36,8 +39,12 @@ def launch_is_over(checks, window):
     checks.equal("the launch is remembered in the user's configuration folder", preferences(), LAUNCHED)
 
 
+def preferences_path():
+    return f"{os.environ['HOME']}/.config/vexa-lumo-65/preferences.ini"
+
+
 def preferences():
-    with open(f"{os.environ['HOME']}/.config/vexa-lumo-65/preferences.ini", encoding="utf-8") as file:
+    with open(preferences_path(), encoding="utf-8") as file:
         return file.read()
 
 
@@ -62,6 +69,15 @@ def chooses_raindrops(checks, window):
     checks.eventually("the status reads \"Applied: Raindrops\"", window.status,
                       lambda texts: texts[:1] == ["Applied: Raindrops"])
     is_marked(checks, window, "Raindrops")
+
+
+def quits(checks, application):
+    """Ctrl+Q, after which the window is gone in no time; the process may follow later."""
+    screen, window = Screen(), int(application.windows()[0])
+    checks.check("the screen shows the window", screen.shows(window))
+    ms = 1000 * screen.seconds_until_gone(window, screen.press("Control_L", "q"))
+    checks.check(f"the window goes within {QUITS_WITHIN_MS} ms of Ctrl+Q: {ms:.0f} ms", ms < QUITS_WITHIN_MS)
+    checks.check("no other one is left", not application.windows())
 
 
 def is_marked(checks, window, effect):

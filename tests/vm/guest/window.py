@@ -28,6 +28,11 @@ class Window:
         """Does what a click on that row does. True when the row took it."""
         return self._press("list item", effect)
 
+    def choose_often(self, effect, times):
+        """As many clicks on that row, as fast as they can be told. How many it took."""
+        row = self._find("list item", effect)
+        return elements.press_often(self._bus, row, times) if row else 0
+
     def press(self, name):
         """Does what a click on that button does."""
         return self._press("push button", name)

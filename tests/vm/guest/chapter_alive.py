@@ -1,0 +1,109 @@
+"""The main loop turns while the keyboard answers nothing, whatever waits behind it; and quitting waits for nothing."""
+
+import os
+import signal
+import time
+
+import stories
+import turns
+from checks import TryAgain
+
+LIMIT_MS = 100
+LIGHTING = ("set 8a", "get 8a", "set 0a", "set 84", "get 84", "set 04")
+COMMANDS = 200
+FALLBACK = "Connected (Simulation Fallback)"
+STOPPED_MS = 300
+
+
+def tell(checks, window, application, keyboard, probe):
+    stands_still(checks, window, application, probe)
+
+    def keeps_turning(hang, transfers):
+        watch(checks, application, keyboard, probe, hang, transfers)
+
+    keyboard.tell("clear")
+    keyboard.tell("fault set 82 hang once")
+    stories.plug(checks, keyboard)
+    keeps_turning("set 82", 1)
+    reads(checks, window, FALLBACK)
+    stories.unplug(checks, keyboard)
+    stories.disconnects(checks, window)
+    keyboard.tell("fault get 82 hang once")
+    stories.plug(checks, keyboard)
+    keeps_turning("get 82", 3)
+    reads(checks, window, FALLBACK)
+
+    for hang in LIGHTING:
+        keyboard.tell(f"fault {hang} hang{'' if hang == 'set 04' else ' once'}")
+    checks.check(f"the row \"{stories.STILL}\" can be chosen", window.choose(stories.STILL))
+    for at, hang in enumerate(LIGHTING, start=4):
+        keeps_turning(hang, at)
+        if hang == LIGHTING[0]:
+            commands_wait(checks, window, probe)
+    quits_behind_commands(checks, application, keyboard)
+
+
+def stands_still(checks, window, application, probe):
+    """What the probe measures without a keyboard, and that it would see a loop that stands still."""
+    begin = time.monotonic()
+    checks.check(f"the row \"{stories.STILL}\" can be chosen", window.choose(stories.STILL))
+    reads(checks, window, f"Previewing {stories.STILL} (Simulated)")
+    time.sleep(1)  # what is told of: the rows fade
+    checks.note(f"painting the choice of an effect, {figures(probe.between(begin, time.monotonic()))}")
+    begin = time.monotonic()
+    time.sleep(2)
+    checks.note(f"doing nothing, {figures(probe.between(begin, time.monotonic()))}")
+    begin = time.monotonic()
+    time.sleep(0.6)
+    os.kill(application.pid, signal.SIGSTOP)
+    time.sleep(STOPPED_MS / 1000)
+    os.kill(application.pid, signal.SIGCONT)
+    time.sleep(1.2)
+    longest = turns.longest_ms(probe.between(begin, time.monotonic()))
+    checks.check(f"a loop stopped for {STOPPED_MS} ms is seen", longest >= STOPPED_MS, f"{longest:.0f} ms")
+
+
+def watch(checks, application, keyboard, probe, hang, transfers):
+    """From the moment that this transfer is seen to get no answer to the last one at which it still got none."""
+    def is_under_way():
+        return len(keyboard.transfers()) == transfers and application.is_inside_an_exchange()
+
+    checks.eventually(f"\"{hang}\" gets no answer", is_under_way, bool)
+    begin = end = time.monotonic()
+    while is_under_way():
+        end = time.monotonic()
+        time.sleep(0.1)
+    lines = probe.between(begin, end)
+    if not lines:
+        raise TryAgain(f"\"{hang}\" was seen for {end - begin:.1f} seconds only")
+    too_long = [line for line in lines if line.longest_ms >= LIMIT_MS]
+    if too_long and all(line.machine_ms >= LIMIT_MS / 2 for line in too_long):
+        raise TryAgain(f"the machine itself stood still: {figures(lines)}")
+    checks.check(f"the loop turns meanwhile, {figures(lines)}", not too_long)
+
+
+def commands_wait(checks, window, probe):
+    begin = time.monotonic()
+    taken = window.choose_often(stories.STILL, COMMANDS)
+    seconds = time.monotonic() - begin
+    checks.equal(f"{COMMANDS} commands are queued", taken, COMMANDS)
+    checks.note(f"queueing them, {seconds:.1f} s, {figures(probe.between(begin - 0.5, time.monotonic()))}")
+
+
+def quits_behind_commands(checks, application, keyboard):
+    application.focus()
+    checks.eventually("an exchange is under way", application.is_inside_an_exchange, bool)
+    begun = len(keyboard.transfers())
+    stories.quits(checks, application)
+    checks.eventually("the process ends", application.ended, lambda status: status is not None)
+    checks.equal("with status 0", application.ended(), 0)
+    checks.check("and has left the commands undone", len(keyboard.transfers()) <= begun + 1)
+
+
+def reads(checks, window, status):
+    checks.eventually(f"the status reads \"{status}\"", window.status, lambda texts: texts[:1] == [status])
+
+
+def figures(lines):
+    longest, machine = turns.longest_ms(lines), turns.machine_ms(lines)
+    return f"{longest:.0f} ms between two turns at most (the machine {machine:.0f} ms) in {len(lines) / 2} s"

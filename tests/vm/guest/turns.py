@@ -1,0 +1,29 @@
+"""What the probe inside the application tells of its main loop, see tests/probe."""
+
+
+class Probe:
+    def __init__(self, folder, path):
+        self._path = path
+        self.environment = {"QT_QPA_GENERIC_PLUGINS": "turnprobe", "QT_PLUGIN_PATH": folder, "LUMO_TURN_PROBE": path}
+
+    def between(self, begin, end):
+        """The half seconds that lie wholly between two moments of time.monotonic()."""
+        with open(self._path, encoding="ascii") as file:
+            told = [Line(line) for line in file.read().split("\n")[:-1]]
+        return [line for before, line in zip(told, told[1:]) if begin <= before.at and line.at <= end]
+
+
+class Line:
+    def __init__(self, text):
+        at_us, self.turns, longest_us, machine_us = (int(word) for word in text.split())
+        self.at = at_us / 1e6
+        self.longest_ms = longest_us / 1e3
+        self.machine_ms = machine_us / 1e3  # of a thread that only sleeps: the machine itself stood still
+
+
+def longest_ms(lines):
+    return max((line.longest_ms for line in lines), default=0.0)
+
+
+def machine_ms(lines):
+    return max((line.machine_ms for line in lines), default=0.0)
