@@ -19,7 +19,7 @@ TurnProbe::TurnProbe(const QString& path) : m_file(path) {
     m_timer.setTimerType(Qt::PreciseTimer);
     QObject::connect(&m_timer, &QTimer::timeout, this, &TurnProbe::turn);
     m_timer.start(kTick);
-    m_sleeper = std::jthread([this](const std::stop_token& stop) { watchMachine(stop); });
+    m_machine.emplace(kTick);
 }
 
 void TurnProbe::turn() {
@@ -29,22 +29,11 @@ void TurnProbe::turn() {
 
 void TurnProbe::write() {
     const Gaps turns = m_turns.take();
-    const Gaps machine = [this] {
-        const std::lock_guard lock(m_mutex);
-        return m_machine.take();
-    }();
+    const Gaps machine = m_machine->take();
     m_written = Clock::now();
     const auto now = std::chrono::duration_cast<std::chrono::microseconds>(m_written.time_since_epoch()).count();
     m_file.write(QByteArray::number(static_cast<qlonglong>(now)) + ' ' + QByteArray::number(turns.ticks()) + ' ' +
                  QByteArray::number(turns.longestUs()) + ' ' + QByteArray::number(machine.longestUs()) + '\n');
-}
-
-void TurnProbe::watchMachine(const std::stop_token& stop) {
-    while (!stop.stop_requested()) {
-        std::this_thread::sleep_for(kTick);
-        const std::lock_guard lock(m_mutex);
-        m_machine.tick();
-    }
 }
 
 }  // namespace lumo::test

@@ -3,17 +3,14 @@
 
 #include <QFile>
 #include <QTimer>
-#include <mutex>
-#include <thread>
+#include <optional>
 
-#include "probe/Gaps.h"
+#include "probe/MachineGaps.h"
 
 namespace lumo::test {
 
-/// Lives on the main thread. A thread of its own that only sleeps tells how long the machine itself stood still.
-///
-/// Each half second one line, in microseconds: monotonic time, turns of the main loop (a number), the longest time
-/// between two of them, the longest time between two turns of the thread.
+/// Lives on the main thread. Each half second one line, in microseconds: monotonic time, turns of the main loop (a
+/// number), the longest time between two of them, the longest time that the machine itself stood still.
 class TurnProbe final : public QObject {
 public:
     /// Without a file that can be written it says so on the console, and measures nothing.
@@ -22,15 +19,12 @@ public:
 private:
     void turn();
     void write();
-    void watchMachine(const std::stop_token& stop);
 
     QFile m_file;
     QTimer m_timer;
     Gaps m_turns;
     Clock::time_point m_written = Clock::now();
-    std::mutex m_mutex;
-    Gaps m_machine;          // under the mutex
-    std::jthread m_sleeper;  // last: it uses the two above
+    std::optional<MachineGaps> m_machine;
 };
 
 }  // namespace lumo::test

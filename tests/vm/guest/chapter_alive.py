@@ -79,7 +79,9 @@ def watch(checks, application, keyboard, probe, hang, transfers):
     too_long = [line for line in lines if line.longest_ms >= LIMIT_MS]
     if too_long and all(line.machine_ms >= LIMIT_MS / 2 for line in too_long):
         raise TryAgain(f"the machine itself stood still: {figures(lines)}")
-    checks.check(f"the loop turns meanwhile, {figures(lines)}", not too_long)
+    silent_ms = 1000 * (end - lines[-1].at - turns.LINE_SECONDS)
+    checks.check(f"the loop turns meanwhile, {figures(lines)}", not too_long and silent_ms < LIMIT_MS,
+                 f"at the end silent for {silent_ms:.0f} ms")
 
 
 def commands_wait(checks, window, probe):
@@ -106,4 +108,4 @@ def reads(checks, window, status):
 
 def figures(lines):
     longest, machine = turns.longest_ms(lines), turns.machine_ms(lines)
-    return f"{longest:.0f} ms between two turns at most (the machine {machine:.0f} ms) in {len(lines) / 2} s"
+    return f"{longest:.0f} ms between two turns at most (the machine {machine:.0f} ms) in {len(lines) * turns.LINE_SECONDS} s"

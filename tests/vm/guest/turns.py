@@ -1,5 +1,7 @@
 """What the probe inside the application tells of its main loop, see tests/probe."""
 
+LINE_SECONDS = 0.5
+
 
 class Probe:
     def __init__(self, folder, path):
