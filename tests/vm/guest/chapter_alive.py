@@ -25,13 +25,13 @@ def tell(checks, window, application, keyboard, probe):
     keyboard.tell("fault set 82 hang once")
     stories.plug(checks, keyboard)
     keeps_turning("set 82", 1)
-    reads(checks, window, FALLBACK)
+    stories.reads(checks, window, FALLBACK)
     stories.unplug(checks, keyboard)
     stories.disconnects(checks, window)
     keyboard.tell("fault get 82 hang once")
     stories.plug(checks, keyboard)
     keeps_turning("get 82", 3)
-    reads(checks, window, FALLBACK)
+    stories.reads(checks, window, FALLBACK)
 
     for hang in LIGHTING:
         keyboard.tell(f"fault {hang} hang{'' if hang == 'set 04' else ' once'}")
@@ -47,7 +47,7 @@ def stands_still(checks, window, application, probe):
     """What the probe measures without a keyboard, and that it would see a loop that stands still."""
     begin = time.monotonic()
     checks.check(f"the row \"{stories.STILL}\" can be chosen", window.choose(stories.STILL))
-    reads(checks, window, f"Previewing {stories.STILL} (Simulated)")
+    stories.reads(checks, window, f"Previewing {stories.STILL} (Simulated)")
     time.sleep(1)  # what is told of: the rows fade
     checks.note(f"painting the choice of an effect, {figures(probe.between(begin, time.monotonic()))}")
     begin = time.monotonic()
@@ -100,10 +100,6 @@ def quits_behind_commands(checks, application, keyboard):
     checks.eventually("the process ends", application.ended, lambda status: status is not None)
     checks.equal("with status 0", application.ended(), 0)
     checks.check("and has left the commands undone", len(keyboard.transfers()) <= begun + 1)
-
-
-def reads(checks, window, status):
-    checks.eventually(f"the status reads \"{status}\"", window.status, lambda texts: texts[:1] == [status])
 
 
 def figures(lines):

@@ -38,10 +38,10 @@ def lives(checks, window, application, keyboard):
     nodes = stories.plug(checks, keyboard)
     stories.connects(checks, window, application, keyboard)
     checks.check(f"the row \"{stories.STILL}\" can be chosen", window.choose(stories.STILL))
-    reads(checks, window, f"Applied: {stories.STILL}")
+    stories.reads(checks, window, f"Applied: {stories.STILL}")
     checks.check("the page \"Device Settings\" can be chosen", window.press_tab("Device Settings"))
     checks.check("the debounce can be set", window.slide("Switch Debounce Time", 20))
-    reads(checks, window, "Debounce set to 20ms")
+    stories.reads(checks, window, "Debounce set to 20ms")
     stories.unplug(checks, keyboard)
     stories.disconnects(checks, window)
     checks.equal("plugged again it has the same nodes", stories.plug(checks, keyboard), nodes)
@@ -51,10 +51,6 @@ def lives(checks, window, application, keyboard):
     checks.eventually("the process ends", application.ended, lambda status: status is not None)
     checks.equal("with status 0", application.ended(), 0)
     return nodes
-
-
-def reads(checks, window, status):
-    checks.eventually(f"the status reads \"{status}\"", window.status, lambda texts: texts[:1] == [status])
 
 
 def every_rule_sees_its_breach(checks):

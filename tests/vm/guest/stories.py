@@ -64,6 +64,10 @@ def disconnects(checks, window):
                       lambda texts: texts[:1] == ["Keyboard disconnected. Running in preview mode."])
 
 
+def reads(checks, window, status):
+    checks.eventually(f"the status reads \"{status}\"", window.status, lambda texts: texts[:1] == [status])
+
+
 def chooses_raindrops(checks, window):
     checks.check("the row \"Raindrops\" can be chosen", window.choose("Raindrops"))
     checks.eventually("the status reads \"Applied: Raindrops\"", window.status,
