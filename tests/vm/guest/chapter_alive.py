@@ -16,12 +16,14 @@ STOPPED_MS = 300
 
 
 def tell(checks, window, application, keyboard, probe):
+    stories.starts_without_keyboard(checks, window)
     stands_still(checks, window, application, probe)
-
-    def keeps_turning(hang, transfers):
-        watch(checks, application, keyboard, probe, hang, transfers)
-
     keyboard.tell("clear")
+    before = len(keyboard.transfers())
+
+    def keeps_turning(hang, transfer):
+        watch(checks, application, keyboard, probe, hang, before + transfer)
+
     keyboard.tell("fault set 82 hang once")
     stories.plug(checks, keyboard)
     keeps_turning("set 82", 1)
@@ -40,7 +42,8 @@ def tell(checks, window, application, keyboard, probe):
         keeps_turning(hang, at)
         if hang == LIGHTING[0]:
             commands_wait(checks, window, probe)
-    quits_behind_commands(checks, application, keyboard)
+    quits_behind_commands(checks, application)
+    checks.check("and has left the commands undone", len(keyboard.transfers()) - before < COMMANDS)
 
 
 def stands_still(checks, window, application, probe):
@@ -89,17 +92,16 @@ def commands_wait(checks, window, probe):
     taken = window.choose_often(stories.STILL, COMMANDS)
     seconds = time.monotonic() - begin
     checks.equal(f"{COMMANDS} commands are queued", taken, COMMANDS)
+    time.sleep(turns.LINE_SECONDS)  # until the probe has told of it
     checks.note(f"queueing them, {seconds:.1f} s, {figures(probe.between(begin - 0.5, time.monotonic()))}")
 
 
-def quits_behind_commands(checks, application, keyboard):
+def quits_behind_commands(checks, application):
     application.focus()
     checks.eventually("an exchange is under way", application.is_inside_an_exchange, bool)
-    begun = len(keyboard.transfers())
     stories.quits(checks, application)
     checks.eventually("the process ends", application.ended, lambda status: status is not None)
     checks.equal("with status 0", application.ended(), 0)
-    checks.check("and has left the commands undone", len(keyboard.transfers()) <= begun + 1)
 
 
 def figures(lines):
