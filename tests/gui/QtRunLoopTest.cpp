@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <QEventLoop>
+#include <memory>
 #include <thread>
 #include <vector>
 
@@ -143,6 +144,15 @@ TEST(QtLoopLifetime, WhatHasNotRunWhenTheLoopGoesNeverRuns) {
     later.postAfter(10ms, [&] { turns.quit(); });
     turns.exec();
     EXPECT_FALSE(wasCalled);
+}
+
+TEST(QtLoopThatGoes, LeavesRegistrationsThatEndLater) {
+    auto loop = std::make_unique<QtRunLoop>();
+    auto repeating = loop->repeatEvery(1h, [] {});
+    loop->post([kept = std::shared_ptr<Registration>(std::move(repeating))] {});  // never runs
+    auto other = loop->repeatEvery(1h, [] {});
+    loop.reset();
+    other.reset();
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "platform/qt/QtRunLoop.h"
 
+#include <QPointer>
 #include <QSocketNotifier>
 #include <QTimer>
 
@@ -10,7 +11,8 @@ std::chrono::milliseconds roundedUp(Duration duration) {
     return std::chrono::ceil<std::chrono::milliseconds>(duration);
 }
 
-/// Ends the source of a task at once. The object itself goes in a later turn: its own task may be what drops it.
+/// Ends the source of a task at once. The object itself goes in a later turn: its own task may be what drops it. A loop
+/// that goes takes its sources with it, and may drop last what a task that never ran held of them.
 template <typename Source>
 class SourceRegistration final : public Registration {
 public:
@@ -18,13 +20,14 @@ public:
     SourceRegistration(const SourceRegistration&) = delete;
     SourceRegistration& operator=(const SourceRegistration&) = delete;
     ~SourceRegistration() override {
+        if (!m_source) return;
         m_stop(*m_source);
         m_source->disconnect();
         m_source->deleteLater();
     }
 
 private:
-    Source* m_source;
+    QPointer<Source> m_source;
     void (*m_stop)(Source&);
 };
 
