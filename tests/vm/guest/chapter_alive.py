@@ -106,4 +106,5 @@ def quits_behind_commands(checks, application):
 
 def figures(lines):
     longest, machine = turns.longest_ms(lines), turns.machine_ms(lines)
-    return f"{longest:.0f} ms between two turns at most (the machine {machine:.0f} ms) in {len(lines) * turns.LINE_SECONDS} s"
+    seconds = len(lines) * turns.LINE_SECONDS
+    return f"{longest:.0f} ms between two turns at most (the machine {machine:.0f} ms) in {seconds} s"

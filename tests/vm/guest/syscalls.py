@@ -3,8 +3,8 @@
 import glob
 import re
 
-CALLS = ("open", "openat", "openat2", "creat", "memfd_create", "socket", "socketpair", "bind", "listen", "accept", "accept4",
-         "connect", "pipe", "pipe2", "eventfd", "eventfd2", "epoll_create", "epoll_create1", "inotify_init",
+CALLS = ("open", "openat", "openat2", "creat", "memfd_create", "socket", "socketpair", "bind", "listen", "accept",
+         "accept4", "connect", "pipe", "pipe2", "eventfd", "eventfd2", "epoll_create", "epoll_create1", "inotify_init",
          "inotify_init1", "timerfd_create", "signalfd4", "dup", "dup2", "dup3", "fcntl", "rename", "renameat",
          "renameat2", "unlink", "unlinkat", "rmdir", "mkdir", "mkdirat", "link", "linkat", "symlink", "symlinkat",
          "truncate", "ftruncate", "fallocate", "mknod", "mknodat", "chmod", "fchmod", "fchmodat", "chown", "fchown",
@@ -17,7 +17,8 @@ class Log:
     def __init__(self, path):
         self._path = path
         # The program stays our own child, and only the calls named above stop it.
-        self.command = ["strace", "-D", "-f", "--seccomp-bpf", "-ff", "-y", "-o", path, "-e", "trace=" + ",".join(CALLS)]
+        self.command = ["strace", "-D", "-f", "--seccomp-bpf", "-ff", "-y", "-o", path,
+                        "-e", "trace=" + ",".join(CALLS)]
 
     def is_complete(self):
         """True once every thread's end is in its file."""
