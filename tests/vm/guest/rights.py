@@ -19,9 +19,10 @@ READ_BY_LIBRARIES = re.compile(r"/usr/(lib/[^/]+/gconv/gconv-modules\.cache|shar
 
 
 def opens_devices_beside(calls, node):
-    """Also in vain: nothing below /dev is even tried but the keyboard's configuration interface."""
+    """Also in vain: nothing below /dev is even tried but the keyboard's configuration interface, and /dev/null, into
+    which the complaints of a picture's library go."""
     return [call for call in calls if call.name in OPENING
-            and any(path.startswith("/dev/") and path != node for path in call.paths)]
+            and any(path.startswith("/dev/") and path not in (node, "/dev/null") for path in call.paths)]
 
 
 def changes_files_beside(calls, allowed):
@@ -56,7 +57,9 @@ def hands_descriptors_on(calls):
     """Made without close-on-exec."""
     def is_handed_on(call):
         if call.name == "fcntl":
-            return bool(re.search(r", F_DUPFD,", call.arguments))
+            return ", F_DUPFD," in call.arguments
+        if re.search(r", 2(<.*>)?$", call.arguments) and call.name == "dup2":
+            return False  # standard error itself, turned away for a moment and back
         is_read_by_library = "O_RDONLY" in call.arguments and any(map(READ_BY_LIBRARIES.match, call.paths))
         return call.name in MAKING and "CLOEXEC" not in call.arguments and not is_read_by_library
 
