@@ -12,6 +12,8 @@ class Probe:
         """The half seconds that lie wholly between two moments of time.monotonic()."""
         with open(self._path, encoding="ascii") as file:
             told = [Line(line) for line in file.read().split("\n")[:-1]]
+        for before, line, after in zip(told, told[1:], [*told[2:], told[-1]] if told else []):
+            line.machine_near_ms = max(before.machine_ms, line.machine_ms, after.machine_ms)
         return [line for before, line in zip(told, told[1:]) if begin <= before.at and line.at <= end]
 
 
@@ -21,6 +23,7 @@ class Line:
         self.at = at_us / 1e6
         self.longest_ms = longest_us / 1e3
         self.machine_ms = machine_us / 1e3  # of a thread that only sleeps: the machine itself stood still
+        self.machine_near_ms = self.machine_ms  # also in the lines beside it: both end when the machine goes on
 
 
 def longest_ms(lines):
