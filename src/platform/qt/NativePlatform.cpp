@@ -1,5 +1,6 @@
 #include "platform/qt/NativePlatform.h"
 
+#include <csignal>
 #include <cstdio>
 #include <string>
 
@@ -8,6 +9,9 @@
 #include "platform/NativeHid.h"
 
 namespace lumo {
+
+// Whoever read the console may be gone: the line is lost then, not the program.
+NativePlatform::NativePlatform() { std::signal(SIGPIPE, SIG_IGN); }
 
 std::unique_ptr<BlockingExecutor> NativePlatform::makeIoQueue(std::string_view label) {
     return std::make_unique<SerialQueue>([name = std::string(label)] { prepareIoThread(name); });

@@ -13,6 +13,8 @@ namespace lumo {
 /// Created on the main thread after the application object.
 class NativePlatform final : public Platform {
 public:
+    NativePlatform();
+
     MainQueue mainQueue() override { return {m_runLoop}; }
     std::unique_ptr<BlockingExecutor> makeIoQueue(std::string_view label) override;
     std::unique_ptr<HidManager> makeHidManager(IoQueue io) override;
