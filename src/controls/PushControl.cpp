@@ -62,7 +62,9 @@ void PushControl::setSelected(bool selected) {
 }
 
 void PushControl::handFocusTo(PushControl& other) {
-    if (hasFocus()) other.setFocus(showsRing() ? Qt::OtherFocusReason : Qt::MouseFocusReason);
+    if (window()->focusWidget() != this) return;  // not hasFocus: the window may come to the front only later
+    other.setFocus(m_hasKeyboardFocus ? Qt::OtherFocusReason : Qt::MouseFocusReason);
+    other.m_hasKeyboardFocus = m_hasKeyboardFocus;
 }
 
 void PushControl::rename(const QString& text) {

@@ -277,5 +277,19 @@ TEST_F(MusicPage, AGrantThatTakesTheNoticeAwayHandsItsFocusToTheToggle) {
     EXPECT_FALSE(control("STREAM: OFF").showsRing());
 }
 
+TEST_F(MusicPage, AGrantGivenInAnotherWindowHandsTheFocusOnAsWell) {
+    state().currentTab.set(NavTab::music);
+    showActive();
+    setMicrophone(AudioAuthorization::denied);
+    turn();
+    control("Grant Access").setFocus(Qt::TabFocusReason);
+    leaveFor([this] {
+        setMicrophone(AudioAuthorization::authorized);
+        turn();
+    });
+    EXPECT_TRUE(control("STREAM: OFF").hasFocus());
+    EXPECT_TRUE(control("STREAM: OFF").showsRing());
+}
+
 }  // namespace
 }  // namespace lumo

@@ -31,6 +31,16 @@ void WindowFixture::showActive() {
     ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
 }
 
+void WindowFixture::leaveFor(const std::function<void()>& something) {
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    something();
+    view->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
+}
+
 std::vector<EffectRow*> WindowFixture::rows() const {
     const auto found = view->findChildren<EffectRow*>();
     return {found.begin(), found.end()};

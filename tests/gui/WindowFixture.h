@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QString>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -33,6 +34,9 @@ protected:
 
     /// Also waits until it has the keyboard.
     void showActive();
+
+    /// Lets another window have the keyboard while something happens, and takes it back.
+    void leaveFor(const std::function<void()>& something);
 
     /// In the order of the list.
     [[nodiscard]] std::vector<EffectRow*> rows() const;
