@@ -110,7 +110,7 @@ bool StepList::event(QEvent* event) {
 
 void StepList::focusInEvent(QFocusEvent* event) {
     m_hasKeyboardFocus = showsFocusRing(event->reason(), m_hasKeyboardFocus);
-    if (m_hasKeyboardFocus) setCurrentStep(m_current);
+    if (m_hasKeyboardFocus && !m_steps.empty()) setCurrentStep(m_current);
     QWidget::focusInEvent(event);
 }
 

@@ -59,7 +59,8 @@ void TimelineCard::setRecording(bool isRecording) {
 }
 
 void TimelineCard::setSteps(const std::vector<MacroEvent>& steps) {
-    if (steps.empty() && m_steps->hasFocus()) {  // which it cannot keep
+    // Which it cannot keep. A window that is not active gives it back to the same widget later.
+    if (steps.empty() && window()->focusWidget() == m_steps) {
         m_insert->setFocus(m_steps->showsRing() ? Qt::OtherFocusReason : Qt::MouseFocusReason);
     }
     m_steps->setSteps(steps);

@@ -195,6 +195,13 @@ TEST_F(Timeline, WithoutStepsItIsNoStop) {
     EXPECT_TRUE(control("Cycle times (3)").hasFocus());
 }
 
+TEST_F(Timeline, TheFocusDoesNotComeBackToItWhenItHasLostItsStepsMeanwhile) {
+    showMacrosActive();
+    enter();
+    leaveFor([this] { setSteps(0); });
+    EXPECT_TRUE(control("Insert Step").hasFocus());
+}
+
 TEST_F(Timeline, TheRingStandsAroundTheButtonOfTheStepAndScrollsWithIt) {
     showMacrosActive();
     setSteps(50);
