@@ -17,6 +17,7 @@ namespace {
 
 constexpr QSize kSmallest{900, 680};
 constexpr QSize kLargest{1500, 1150};
+constexpr QSize kFirst{960, 760};
 constexpr int kLongestDrag = 300;
 
 constexpr Qt::Key kKeys[] = {
@@ -51,8 +52,10 @@ void Monkey::act() {
     (this->*m_chance.of(kActs))();
 }
 
-void Monkey::emptyLists() {
+void Monkey::comeHome() {
     UIState& state = UIState::shared();
+    m_window.resize(kFirst);
+    state.currentTab.set(NavTab::lighting);
     state.macroList.set({});
     state.macroEvents.set({});
     state.selectedMacroIndex.set(0);

@@ -21,8 +21,9 @@ public:
     /// One act; what follows from it happens in later turns of the event loop.
     void act();
 
-    /// Takes out of the lists what has come into them, so that nothing is left of the past.
-    void emptyLists();
+    /// Takes out of the lists what has come into them, and goes back to the first page and the first size, so that
+    /// nothing is left of the past.
+    void comeHome();
 
     [[nodiscard]] unsigned long acts() const { return m_acts; }
 
