@@ -63,7 +63,8 @@ TEST_F(LostEvents, ADepartureThatIsToldAfterTheNextArrivalComesFirst) {
     MockedInterface again = vendor;
     again.hidraw = 2;
     std::vector<std::string> order;
-    manager->onRemoved([&](const DeviceRef& device) { order.emplace_back(device == first ? "first goes" : "another"); });
+    manager->onRemoved(
+        [&](const DeviceRef& device) { order.emplace_back(device == first ? "first goes" : "another"); });
     manager->onMatched([&](const DeviceRef&) { order.emplace_back("it comes"); });
     kernel.vanish(vendor);
     kernel.plug(again);
