@@ -16,12 +16,23 @@ class Firmware : public testing::Test {
 protected:
     FirmwareModel model;
 
+    void SetUp() override { model.recordWrites(); }
+
     void addFault(std::string_view text) { model.addFault(parseFault(text).value()); }
     FirmwareModel::Answer query(std::initializer_list<std::uint8_t> head) {
         EXPECT_EQ(model.setFeature(request(head)), Outcome::answered);
         return model.getFeature(520);
     }
 };
+
+TEST_F(Firmware, KeepsWhatItWasSentOnlyWhereThatIsRecorded) {
+    FirmwareModel unobserved;
+    EXPECT_EQ(unobserved.setFeature(request({0x06, 0x84})), Outcome::answered);
+    EXPECT_TRUE(unobserved.writes().empty());
+    EXPECT_EQ(unobserved.transfers(), 1U);
+    EXPECT_EQ(model.setFeature(request({0x06, 0x84})), Outcome::answered);
+    EXPECT_EQ(model.writes(), std::vector<Bytes>{request({0x06, 0x84})});
+}
 
 TEST_F(Firmware, AnswersTheHandshakeWithItsCommandByte) {
     const auto answer = query({0x06, 0x82, 0x01, 0x00, 0x01, 0x00, 0x06});

@@ -47,7 +47,7 @@ FirmwareModel::FirmwareModel()
 Outcome FirmwareModel::setFeature(std::span<const std::uint8_t> bytes) {
     ++m_transfers;
     const Bytes report(bytes.begin(), bytes.end());
-    m_writes.push_back(report);
+    if (m_recordsWrites) m_writes.push_back(report);
     if (const Fault* fault = faultFor(Direction::set, commandOf(report))) {
         switch (fault->kind) {
             case FaultKind::hang:

@@ -73,7 +73,9 @@ public:
     [[nodiscard]] const Bytes& colourBank(std::uint8_t selector) const;
     [[nodiscard]] const Bytes& ledPlanes() const { return m_ledPlanes; }
 
-    /// Every set that arrived, refused ones included, oldest first.
+    /// From now on. Nobody looks at what a demo's keyboard was sent, which may run for days.
+    void recordWrites() { m_recordsWrites = true; }
+    /// Every set that arrived while they are recorded, refused ones included, oldest first.
     [[nodiscard]] const std::vector<Bytes>& writes() const { return m_writes; }
     /// The newest set with that command byte; empty when there was none.
     [[nodiscard]] Bytes lastWrite(std::uint8_t command) const;
@@ -96,6 +98,7 @@ private:
     Block m_keyTable{};
     std::map<std::uint8_t, Bytes> m_banks;
     Bytes m_ledPlanes;
+    bool m_recordsWrites = false;
     std::vector<Bytes> m_writes;
     std::vector<ActiveFault> m_faults;
     std::uint8_t m_pendingRead = 0;

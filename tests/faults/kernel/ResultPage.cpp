@@ -37,8 +37,8 @@ std::string ResultPage::text() const {
          << "many transfers were disturbed so; where not all came out as predicted, it says how many did. Predicted\n"
          << "are the status texts with their order, the number of transfers and what is published; afterwards the\n"
          << "next command has to work, the key table that is known has to be the keyboard's, and neither a descriptor\n"
-         << "nor a thread may be left behind. A keyboard is replugged at once as soon as the kernel has freed its\n"
-         << "socket.\n\n"
+         << "nor a thread may be left behind. A keyboard is replugged at once as soon as the kernel has put the old\n"
+         << "one away and freed its socket.\n\n"
          << m_passed + m_failed << " cases, " << m_passed << " as predicted, " << m_failed << " not.\n\n| fault |";
     for (const std::string& command : m_commands) page << ' ' << command << " |";
     page << "\n|---|";

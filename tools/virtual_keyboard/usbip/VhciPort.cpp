@@ -6,14 +6,17 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <filesystem>
 #include <fstream>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <thread>
 
 namespace lumo::vk {
 namespace {
 
+constexpr const char* kController = "/sys/devices/platform/vhci_hcd.0";
 constexpr const char* kStatusPath = "/sys/devices/platform/vhci_hcd.0/status";
 constexpr const char* kAttachPath = "/sys/devices/platform/vhci_hcd.0/attach";
 constexpr unsigned kPortIsFree = 4;
@@ -37,6 +40,16 @@ std::vector<unsigned> freePorts(std::istream& status) {
     return ports;
 }
 
+bool holdsDevice(const std::string& controller, unsigned port) {
+    constexpr std::string_view kBus = "usb";  // usb1 with 1-1, 1-2 … in it, usb2 with 2-1 …
+    const auto hasDevice = [&](const std::filesystem::directory_entry& entry) {
+        const std::string name = entry.path().filename();
+        if (!name.starts_with(kBus)) return false;
+        return std::filesystem::exists(entry.path() / (name.substr(kBus.size()) + '-' + std::to_string(port + 1)));
+    };
+    return std::ranges::any_of(std::filesystem::directory_iterator(controller), hasDevice);
+}
+
 void VhciPort::attach(int hostSocket) {
     m_number = freeNumber();
     const std::string text = std::to_string(*m_number) + ' ' + std::to_string(hostSocket) + ' ' +
@@ -56,7 +69,8 @@ unsigned VhciPort::freeNumber() const {
         std::ifstream status(kStatusPath);
         if (!status) fail(ENODEV, kStatusPath);
         const std::vector<unsigned> ports = freePorts(status);
-        if (m_number && std::ranges::find(ports, *m_number) != ports.end()) return *m_number;
+        if (m_number && std::ranges::find(ports, *m_number) != ports.end() && !holdsDevice(kController, *m_number))
+            return *m_number;
         const bool isOwnAwaited = m_number && std::chrono::steady_clock::now() < end;
         if (!isOwnAwaited && !ports.empty()) return ports.front();
         if (!isOwnAwaited) fail(EBUSY, "vhci_hcd has no free port");
