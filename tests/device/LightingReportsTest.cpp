@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <vector>
 
 #include "device/ParameterBlock.h"
@@ -41,8 +42,9 @@ TEST(ColorBlock, PatchesTheAnswerAndKeepsEveryOtherByte) {
     expected[6] = 0x00;
     expected[7] = 0x02;
     expected[8] = 0x00;
-    for (const std::size_t record :
-         {9, 30, 51, 72, 93, 114, 135, 156, 177, 198, 219, 240, 261, 282, 303, 324, 345, 366, 387, 408, 429}) {
+    constexpr std::array<std::size_t, 21> kRecords{9,   30,  51,  72,  93,  114, 135, 156, 177, 198, 219,
+                                                   240, 261, 282, 303, 324, 345, 366, 387, 408, 429};
+    for (const std::size_t record : kRecords) {
         expected[record] = 0x11;
         expected[record + 1] = 0x22;
         expected[record + 2] = 0x33;
