@@ -6,6 +6,7 @@ add_library(lumo_ui STATIC
     app/ConnectionDot.cpp
     app/HeaderBar.cpp
     app/ImageFile.cpp
+    app/LoadedImage.cpp
     app/MainView.cpp
     app/NaviPillButton.cpp
     app/NavigationBar.cpp
@@ -27,7 +28,9 @@ add_library(lumo_ui STATIC
     controls/Accessible.cpp
     controls/Appearance.cpp
     controls/BrandMark.cpp
+    controls/ButtonRows.cpp
     controls/Card.cpp
+    controls/CardRows.cpp
     controls/ColorWheel.cpp
     controls/ColorWheelInput.cpp
     controls/Columns.cpp
@@ -65,6 +68,8 @@ add_library(lumo_ui STATIC
     controls/SymbolCache.cpp
     controls/TextBlock.cpp
     controls/TextLine.cpp
+    controls/TextScale.cpp
+    controls/TextShape.cpp
     controls/Theme.cpp
     controls/WheelDisc.cpp
     keyboard/AccessibleKeyboard.cpp
@@ -112,6 +117,7 @@ add_library(lumo_ui STATIC
     platform/qt/FrameClock.cpp
     platform/qt/NativePlatform.cpp
     platform/qt/QtRunLoop.cpp
+    platform/qt/OneInstance$<IF:$<BOOL:${APPLE}>,Mac,Xdg>.cpp
     platform/qt/WindowSystem$<IF:$<BOOL:${APPLE}>,Mac,Xdg>.cpp
     platform/qt/WindowUpdates.cpp
     remap/ActionGrid.cpp
@@ -170,7 +176,8 @@ target_include_directories(lumo_ui PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(lumo_ui PUBLIC lumo_core lumo_platform Qt6::Widgets PRIVATE lumo_options Qt6::Svg)
 if(NOT APPLE)
     find_package(Qt6 6.4 REQUIRED COMPONENTS DBus)
-    target_sources(lumo_ui PRIVATE platform/qt/MotionPreference.cpp platform/qt/XdgDesktop.cpp platform/qt/XdgPreferences.cpp)
+    target_sources(lumo_ui PRIVATE platform/qt/MotionPreference.cpp platform/qt/RunningInstance.cpp
+        platform/qt/SessionBus.cpp platform/qt/XdgDesktop.cpp platform/qt/XdgPreferences.cpp)
     target_link_libraries(lumo_ui PRIVATE Qt6::DBus)
 endif()
 

@@ -6,6 +6,7 @@
 #include <QStyle>
 #include <algorithm>
 
+#include "app/AssetManager.h"
 #include "app/MainView.h"
 #include "app/SharedObjects.h"
 #include "controls/Theme.h"
@@ -38,6 +39,7 @@ void AppDelegate::makeQuitAction() {
 
 void AppDelegate::applicationDidFinishLaunching() {
     window_system::becomeRegularApplication();
+    AssetManager::shared().readAhead({"keyimg.png", "colorwheel.png"});
     // The view comes before the window: making it brings the device link to life.
     auto view = std::make_unique<MainView>(window_system::showsMenuBar() ? nullptr : &m_quit);
     makeWindow();
@@ -56,6 +58,11 @@ void AppDelegate::makeWindow() {
     palette.setColor(QPalette::Window, theme::kWindow);
     m_window->setPalette(palette);
     window_system::dressWindow(*m_window);
+}
+
+void AppDelegate::applicationShouldHandleReopen() {
+    m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
+    window_system::activateApplication(*m_window);
 }
 
 void AppDelegate::applicationWillTerminate() {

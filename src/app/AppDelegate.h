@@ -19,6 +19,9 @@ public:
     /// Called once, in the first turn of the event loop.
     void applicationDidFinishLaunching();
 
+    /// The program was started once more: the window comes to the front, also from the dock.
+    void applicationShouldHandleReopen();
+
     [[nodiscard]] static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }
 
     /// The window leaves the screen and the report under way is the last. Never waits for a keyboard.

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "app/AssetPaths.h"
-#include "app/ImageFile.h"
 #include "app/SharedObjects.h"
 
 namespace lumo {
@@ -29,31 +28,55 @@ AssetManager& AssetManager::shared() {
     return *place;
 }
 
-const QImage* AssetManager::image(std::string_view name) {
-    if (const auto known = m_cache.find(name); known != m_cache.end()) return &known->second;
-    QImage found = find(trimmed(name));
-    if (found.isNull()) return nullptr;
-    return &m_cache.emplace(name, std::move(found)).first->second;
+std::shared_ptr<const QImage> AssetManager::image(std::string_view name) {
+    if (const auto known = m_cache.find(name); known != m_cache.end()) return known->second.pixels();
+    std::optional<LoadedImage> found = read(name);
+    if (!found) return nullptr;
+    return m_cache.emplace(name, *std::move(found)).first->second.pixels();
 }
 
-QImage AssetManager::find(const std::string& name) const {
+void AssetManager::readAhead(std::initializer_list<std::string_view> names) {
+    std::vector<std::pair<std::string, std::promise<std::optional<LoadedImage>>>> wanted;
+    decltype(m_coming) coming;
+    for (const std::string_view name : names) {
+        auto& [file, promise] = wanted.emplace_back(trimmed(name), std::promise<std::optional<LoadedImage>>());
+        coming.emplace(name, promise.get_future());
+    }
+    const auto readAll = [this](auto all) {
+        for (auto& [name, promise] : all) promise.set_value(find(name));
+    };
+    try {
+        m_reader = std::async(std::launch::async, readAll, std::move(wanted));
+    } catch (const std::system_error&) {
+        return;  // no thread to be had: they are read when they are asked for
+    }
+    m_coming = std::move(coming);
+}
+
+std::optional<LoadedImage> AssetManager::read(std::string_view name) {
+    const auto coming = m_coming.find(name);
+    if (coming == m_coming.end()) return find(trimmed(name));
+    return m_coming.extract(coming).mapped().get();
+}
+
+std::optional<LoadedImage> AssetManager::find(const std::string& name) const {
     if (const auto path = m_bundle.pathForResource(name)) {
-        if (QImage image = loadImageFile(*path); !image.isNull()) return image;
+        if (auto image = LoadedImage::fromFile(*path)) return image;
     }
     if (const auto directory = m_bundle.resourceDirectory()) {
-        if (QImage image = firstOf(assetPathsInResources(*directory, name)); !image.isNull()) return image;
+        if (auto image = firstOf(assetPathsInResources(*directory, name))) return image;
     }
     std::error_code gone;  // somebody may have removed the folder we stand in
     const auto current = std::filesystem::current_path(gone);
-    return gone ? QImage() : firstOf(assetPathsInWorkingCopy(current.string(), name));
+    return gone ? std::nullopt : firstOf(assetPathsInWorkingCopy(current.string(), name));
 }
 
-QImage AssetManager::firstOf(const std::vector<std::string>& paths) const {
+std::optional<LoadedImage> AssetManager::firstOf(const std::vector<std::string>& paths) const {
     for (const std::string& path : paths) {
         if (!m_isFile(path)) continue;
-        if (QImage image = loadImageFile(path); !image.isNull()) return image;
+        if (auto image = LoadedImage::fromFile(path)) return image;
     }
-    return {};
+    return std::nullopt;
 }
 
 bool AssetManager::isFileOnDisk(const std::string& path) {

@@ -4,11 +4,16 @@
 
 #include <QImage>
 #include <functional>
+#include <future>
+#include <initializer_list>
 #include <map>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "app/LoadedImage.h"
 #include "platform/Bundle.h"
 
 namespace lumo {
@@ -16,7 +21,7 @@ namespace lumo {
 /// Main thread; the bundle outlives it. What was found once stays; what was not is looked for again at every call.
 class AssetManager final {
 public:
-    /// True when there is a file at that path.
+    /// True when there is a file at that path. Any thread.
     using FileProbe = std::function<bool(const std::string& path)>;
 
     explicit AssetManager(Bundle& bundle, FileProbe isFile = isFileOnDisk);
@@ -27,19 +32,25 @@ public:
     /// The one instance of the running program.
     static AssetManager& shared();
 
+    /// Begins to read these on another thread, in this order, for those who will soon ask for them. Once.
+    void readAhead(std::initializer_list<std::string_view> names);
+
     /// `name` with its ending, alone ("navi2_nr.png") or with folders; white space around it does not count. Null when
-    /// no file of that name holds a picture, which is never an error. Valid as long as this object.
+    /// no file of that name holds a picture, which is never an error.
     /// To be drawn as it is: artwork has its own colours and is never tinted.
-    [[nodiscard]] const QImage* image(std::string_view name);
+    [[nodiscard]] std::shared_ptr<const QImage> image(std::string_view name);
 
 private:
     static bool isFileOnDisk(const std::string& path);
-    [[nodiscard]] QImage find(const std::string& name) const;
-    [[nodiscard]] QImage firstOf(const std::vector<std::string>& paths) const;
+    [[nodiscard]] std::optional<LoadedImage> find(const std::string& name) const;
+    [[nodiscard]] std::optional<LoadedImage> read(std::string_view name);
+    [[nodiscard]] std::optional<LoadedImage> firstOf(const std::vector<std::string>& paths) const;
 
     Bundle& m_bundle;
     FileProbe m_isFile;
-    std::map<std::string, QImage, std::less<>> m_cache;  // by the name as it was asked for
+    std::map<std::string, LoadedImage, std::less<>> m_cache;  // by the name as it was asked for
+    std::map<std::string, std::future<std::optional<LoadedImage>>, std::less<>> m_coming;
+    std::future<void> m_reader;  // the last member: nothing else may go while it reads
 };
 
 }  // namespace lumo

@@ -17,20 +17,25 @@ constexpr int kMarkX = 84;  // right of the window buttons
 #else
 constexpr int kMarkX = theme::kWindowMargin;
 #endif
-constexpr int kRowHeight = HeaderBar::kHeight - 1;
-constexpr int kMarkY = (kRowHeight - BrandButton::kMarkSize) / 2;
 constexpr int kTitleX = kMarkX + BrandButton::kMarkSize + 8;
 constexpr int kDotToText = 8;
 constexpr int kLongestConnection = 220;
 constexpr int kGap = 16;  // on both sides of the separator
 constexpr int kSeparatorHeight = 20;
+constexpr int kDivider = 1;
+
+int rowHeight() { return theme::grown(44); }
+
+int markY() { return (rowHeight() - BrandButton::kMarkSize) / 2; }
 
 void place(QWidget& line, int x, int width) {
     const int height = line.sizeHint().height();
-    line.setGeometry(x, (kRowHeight - height) / 2, width, height);
+    line.setGeometry(x, (rowHeight() - height) / 2, width, height);
 }
 
 }  // namespace
+
+int HeaderBar::barHeight() { return rowHeight() + kDivider; }
 
 HeaderBar::HeaderBar(QAction* quit, QWidget* parent)
     : QWidget(parent),
@@ -41,7 +46,7 @@ HeaderBar::HeaderBar(QAction* quit, QWidget* parent)
       m_connection(new TextLine(theme::kLinkStyle, theme::kTextLink, this)) {
     m_title->setText("VEXA LUMO 65");
     place(*m_title, kTitleX, m_title->sizeHint().width());
-    if (m_brand) m_brand->move(kMarkX - BrandButton::kRoom, kMarkY - BrandButton::kRoom);
+    if (m_brand) m_brand->move(kMarkX - BrandButton::kRoom, markY() - BrandButton::kRoom);
     connect(m_profiles, &ProfileBar::chosen, this, &HeaderBar::profileChosen);
 }
 
@@ -58,11 +63,14 @@ void HeaderBar::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void HeaderBar::placeRightGroup() {
-    const int textWidth = m_connection->widthWithin(kLongestConnection);
+    const int others = m_title->geometry().right() + 1 + kGap + m_profiles->sizeHint().width() + kGap + 1 + kGap +
+                       ConnectionDot::kDiameter + kDotToText + theme::kWindowMargin;
+    const int room = std::max(0, std::min(theme::widened(kLongestConnection), width() - others));
+    const int textWidth = m_connection->widthWithin(room);
     const int textX = width() - theme::kWindowMargin - textWidth;
     place(*m_connection, textX, textWidth);
     const int dotX = textX - kDotToText - ConnectionDot::kDiameter;
-    m_dot->move(dotX - ConnectionDot::kGlowReach, (kRowHeight - m_dot->height()) / 2);
+    m_dot->move(dotX - ConnectionDot::kGlowReach, (rowHeight() - m_dot->height()) / 2);
     m_separatorX = dotX - kGap - 1;
     place(*m_profiles, m_separatorX - kGap - m_profiles->sizeHint().width(), m_profiles->sizeHint().width());
     update();
@@ -72,10 +80,10 @@ void HeaderBar::resizeEvent(QResizeEvent*) { placeRightGroup(); }
 
 void HeaderBar::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(0, kRowHeight, width(), 1, theme::kHeaderLine);
-    painter.fillRect(m_separatorX, (kRowHeight - kSeparatorHeight) / 2, 1, kSeparatorHeight, theme::kHeaderSeparator);
+    painter.fillRect(0, rowHeight(), width(), 1, theme::kHeaderLine);
+    painter.fillRect(m_separatorX, (rowHeight() - kSeparatorHeight) / 2, 1, kSeparatorHeight, theme::kHeaderSeparator);
     if (m_brand) return;
-    m_mark.paint(painter, QRectF(kMarkX, kMarkY, BrandButton::kMarkSize, BrandButton::kMarkSize), theme::kAccent);
+    m_mark.paint(painter, QRectF(kMarkX, markY(), BrandButton::kMarkSize, BrandButton::kMarkSize), theme::kAccent);
 }
 
 }  // namespace lumo

@@ -20,7 +20,7 @@ class HeaderBar final : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int kHeight = 45;  // the divider included
+    static int barHeight();  // the divider included
 
     /// `quit` is the one item of the program's menu and outlives this bar; null where the system shows that menu.
     HeaderBar(QAction* quit, QWidget* parent);

@@ -3,8 +3,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <QBuffer>
 #include <QFile>
 #include <QImageReader>
+#include <mutex>
+#include <optional>
 
 #include "app/PngChunks.h"
 
@@ -14,7 +17,7 @@ namespace {
 constexpr int kLargestPictureMiB = 64;  // ours are 4 at most; a few bytes of a file can claim any size
 constexpr qint64 kLargestFile = kLargestPictureMiB * 1024 * 1024;
 
-// Both for the length of one file: to us a damaged picture is as good as none, whatever the readers think of it.
+// To us a damaged picture is as good as none, whatever the readers think of it.
 
 /// What Qt has to say.
 class MutedMessages final {
@@ -51,26 +54,67 @@ private:
     const int m_before = ::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0);
 };
 
-/// The bytes are looked over before the readers see them.
-bool isWorthReading(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestFile) return false;
-    const QByteArray bytes = file.readAll();
-    return !claimsMorePngThanThereIs({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+/// For the length of one file; of files that are read at the same time, until the last one is.
+class Silence final {
+public:
+    Silence() {
+        const std::lock_guard lock(s_mutex);
+        if (s_readers++ == 0) s_muted.emplace();
+    }
+    Silence(const Silence&) = delete;
+    Silence& operator=(const Silence&) = delete;
+    ~Silence() {
+        const std::lock_guard lock(s_mutex);
+        if (--s_readers == 0) s_muted.reset();
+    }
+
+private:
+    struct Muted {
+        MutedMessages messages;
+        MutedErrorStream errors;
+    };
+
+    static inline std::mutex s_mutex;
+    static inline int s_readers = 0;
+    static inline std::optional<Muted> s_muted;
+};
+
+QImage read(QByteArray& bytes) {
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    // Asked what a file is, Qt loads its readers of every other form as well, which takes longer than an icon does.
+    if (bytes.startsWith("\x89PNG")) {
+        reader.setAutoDetectImageFormat(false);
+        reader.setFormat("png");
+    }
+    return reader.read();
+}
+
+/// The whole process's.
+void limitAllocation() {
+    static const bool isLimited = (QImageReader::setAllocationLimit(kLargestPictureMiB), true);
+    static_cast<void>(isLimited);
 }
 
 }  // namespace
 
-QImage loadImageFile(const std::string& path) {
-    const QString name = QFile::decodeName(path.c_str());
-    if (!isWorthReading(name)) return {};
-    const MutedMessages mutedMessages;
-    const MutedErrorStream mutedErrors;
-    QImageReader::setAllocationLimit(kLargestPictureMiB);
-    QImageReader reader(name);
-    const QImage read = reader.read();
+// The bytes are looked over before the readers see them.
+QByteArray imageFileBytes(const std::string& path) {
+    QFile file(QFile::decodeName(path.c_str()));
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kLargestFile) return {};
+    QByteArray bytes = file.readAll();
+    bytes.squeeze();  // it may be kept
+    const bool isTrap = claimsMorePngThanThereIs({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    return isTrap ? QByteArray() : bytes;
+}
+
+QImage decodedImage(QByteArray bytes) {
+    if (bytes.isEmpty()) return {};
+    const Silence silence;
+    limitAllocation();
+    const QImage image = read(bytes);
     // The form that is painted without being converted every time.
-    return read.isNull() ? read : read.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    return image.isNull() ? image : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 }  // namespace lumo

@@ -13,8 +13,8 @@
 #include "app/SharedObjects.h"
 #include "app/StatusBar.h"
 #include "audio/MusicVisualizerView.h"
+#include "controls/Columns.h"
 #include "controls/FocusRing.h"
-#include "controls/Popup.h"
 #include "controls/Theme.h"
 #include "foundation/ReferenceDate.h"
 #include "keyboard/KeyboardView.h"
@@ -31,20 +31,18 @@ namespace lumo {
 namespace {
 
 constexpr int kWidestColumn = 1040;
-constexpr int kNavigationTop = 53;
-constexpr int kKeyboardTop = 92;
-constexpr int kPageTop = kKeyboardTop + KeyboardView::kHeight;
+constexpr int kHeaderToNavigation = 8;
+constexpr int kNavigationToKeyboard = 3;
 constexpr int kPageToStatus = 12;
-constexpr int kToastRoom = PermissionToast::kSize.height() + kPageToStatus;
 
 MainQueue mainQueue() { return SharedObjects::current().mainQueue(); }
 
 double frameTime() { return secondsSinceReferenceDate(std::chrono::system_clock::now()); }
 
-/// The page area's left, top and width.
-QRect pageColumn(const QWidget& view) {
-    const int width = std::min(view.width() - 2 * theme::kWindowMargin, kWidestColumn);
-    return {(view.width() - width) / 2, kPageTop, width, 0};
+/// Where what stands below the header begins and ends.
+Extent contentColumn(const QWidget& view) {
+    const int width = std::min(view.width() - 2 * theme::kWindowMargin, theme::widened(kWidestColumn));
+    return {(view.width() - width) / 2, width};
 }
 
 QWidget* makePage(NavTab tab) {
@@ -80,8 +78,8 @@ MainView::MainView(QAction* quit, QWidget* parent)
       m_page(new PageArea(this)),
       m_status(new StatusBar(this)),
       m_toast(new PermissionToast(m_permissions, m_state, this)),
-      m_welcome(makeWelcomePopup(m_permissions, m_state, this)),
-      m_recheck(makeRecheckPopup(m_permissions, m_state, this)),
+      m_welcome([this] { return makeWelcomePopup(m_permissions, m_state, this); }),
+      m_recheck([this] { return makeRecheckPopup(m_permissions, m_state, this); }),
       m_refresh(mainQueue(), [this] { refresh(); }),
       m_permissionRefresh(mainQueue(), [this] { showPermissions(); }),
       m_linkChanges(m_link.observe([this] { m_refresh.request(); })),
@@ -102,7 +100,7 @@ MainView::MainView(QAction* quit, QWidget* parent)
 void MainView::makeShortcut(NavTab tab) {
     const QKeySequence keys(static_cast<int>(Qt::CTRL) | (Qt::Key_0 + static_cast<int>(rawValue(tab))));
     connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, tab] {
-        if (!m_welcome->isShown() && !m_recheck->isShown()) m_state.currentTab.set(tab);
+        if (!m_welcome.isShown() && !m_recheck.isShown()) m_state.currentTab.set(tab);
     });
 }
 
@@ -122,8 +120,8 @@ void MainView::refresh() {
 void MainView::showPermissions() {
     m_status->setGrants(m_permissions.isMicrophoneAuthorized.get(), m_permissions.isInputMonitoringAuthorized.get());
     m_toast->setShown(m_permissions.showPermissionToast.get());
-    m_welcome->setShown(m_permissions.showFirstLaunchPopup.get());
-    m_recheck->setShown(m_permissions.showRecheckPopup.get());
+    m_welcome.setShown(m_permissions.showFirstLaunchPopup.get());
+    m_recheck.setShown(m_permissions.showRecheckPopup.get());
 }
 
 void MainView::showTab(NavTab tab) {
@@ -149,24 +147,27 @@ void MainView::showEvent(QShowEvent*) {
 }
 
 void MainView::resizeEvent(QResizeEvent*) {
-    const QRect column = pageColumn(*this);
-    const int statusTop = height() - StatusBar::kHeight;
-    m_header->setGeometry(0, 0, width(), HeaderBar::kHeight);
-    m_navigation->setGeometry(column.x(), kNavigationTop, column.width(), NavigationBar::kHeight);
-    m_keyboard->setGeometry(column.x() - KeyboardView::kShadow, kKeyboardTop, column.width() + KeyboardView::kShadow,
-                            KeyboardView::kHeight);
-    m_status->setGeometry(0, statusTop, width(), StatusBar::kHeight);
+    const auto [left, room] = contentColumn(*this);
+    const int statusTop = height() - StatusBar::barHeight();
+    m_header->setGeometry(0, 0, width(), HeaderBar::barHeight());
+    m_navigation->setGeometry(left, HeaderBar::barHeight() + kHeaderToNavigation, room, NavigationBar::barHeight());
+    const int keyboardTop = m_navigation->geometry().bottom() + 1 + kNavigationToKeyboard;
+    const int keyboardWidth = room + KeyboardView::kShadow;
+    m_keyboard->setGeometry(left - KeyboardView::kShadow, keyboardTop, keyboardWidth,
+                            m_keyboard->heightWithin(keyboardWidth));
+    m_status->setGeometry(0, statusTop, width(), StatusBar::barHeight());
+    m_toast->setRoom(room);
     m_toast->setCorner({width() - theme::kWindowMargin, statusTop - kPageToStatus});
     placePage();
-    for (Popup* const popup : {m_welcome, m_recheck}) popup->setGeometry(rect());
+    for (LatePopup* const popup : {&m_welcome, &m_recheck}) popup->setGeometry(rect());
 }
 
 void MainView::placePage() {
     // The page makes room for the toast, so that this never covers a control.
-    const int below = kPageToStatus + qRound(m_toast->share() * kToastRoom);
-    QRect page = pageColumn(*this);
-    page.setHeight(height() - StatusBar::kHeight - below - kPageTop);
-    m_page->place(page, width());
+    const int below = kPageToStatus + qRound(m_toast->share() * (m_toast->height() + kPageToStatus));
+    const auto [left, room] = contentColumn(*this);
+    const int top = m_keyboard->geometry().bottom() + 1;
+    m_page->place({left, top, room, height() - StatusBar::barHeight() - below - top}, width());
 }
 
 }  // namespace lumo

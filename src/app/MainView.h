@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "app/NavTab.h"
+#include "controls/LatePopup.h"
 #include "foundation/CoalescedRefresh.h"
 #include "foundation/Observable.h"
 
@@ -18,7 +19,6 @@ class NavigationBar;
 class PageArea;
 class PermissionManager;
 class PermissionToast;
-class Popup;
 class StatusBar;
 class UIState;
 class VexaProtocol;
@@ -55,8 +55,8 @@ private:
     PageArea* m_page;
     StatusBar* m_status;
     PermissionToast* m_toast;
-    Popup* m_welcome;
-    Popup* m_recheck;
+    LatePopup m_welcome;
+    LatePopup m_recheck;
     std::optional<NavTab> m_shownTab;
     CoalescedRefresh m_refresh;
     CoalescedRefresh m_permissionRefresh;  // apart: grants are looked at every two seconds

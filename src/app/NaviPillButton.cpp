@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QPainter>
+#include <cmath>
 
 #include "app/AssetManager.h"
 #include "controls/Panel.h"
@@ -17,7 +18,7 @@ namespace {
 constexpr double kIconSize = 20.0;
 constexpr double kSymbolSize = 14.0;
 constexpr double kIconGap = 8.0;
-constexpr double kLeastPadding = 8.0;
+constexpr double kLeastPadding = 4.0;
 constexpr double kRadius = 8.0;
 constexpr double kRingReach = 2.0;  // the ring stays inside the track, which is 3 points wider
 constexpr QColor kSymbolColor{0xB5, 0xB5, 0xBB};
@@ -44,8 +45,20 @@ RingShape NaviPillButton::ringShape() const {
     return {outer, kRadius + kRingReach};
 }
 
+double NaviPillButton::iconRoom(bool hasIcon) { return hasIcon ? kIconSize + kIconGap : 0.0; }
+
+int NaviPillButton::leastWidth(bool hasIcon) const {
+    const double title = QFontMetricsF(font()).horizontalAdvance(text());
+    return static_cast<int>(std::ceil(iconRoom(hasIcon) + title + 2.0 * kLeastPadding));
+}
+
+void NaviPillButton::setHasIcon(bool hasIcon) {
+    m_hasIcon = hasIcon;
+    update();
+}
+
 QString NaviPillButton::shownTitle() const {
-    const double room = width() - kIconSize - kIconGap - 2.0 * kLeastPadding;
+    const double room = width() - iconRoom() - 2.0 * kLeastPadding;
     return QFontMetricsF(font()).elidedText(text(), Qt::ElideRight, room);
 }
 
@@ -55,11 +68,11 @@ void NaviPillButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintSurface(painter);
     const QString title = shownTitle();
-    const double left = (width() - kIconSize - kIconGap - QFontMetricsF(font()).horizontalAdvance(title)) / 2.0;
+    const double left = (width() - iconRoom() - QFontMetricsF(font()).horizontalAdvance(title)) / 2.0;
     const QRectF all = rect();
-    paintIcon(painter, QRectF(left, all.center().y() - kIconSize / 2.0, kIconSize, kIconSize));
+    if (m_hasIcon) paintIcon(painter, QRectF(left, all.center().y() - kIconSize / 2.0, kIconSize, kIconSize));
     painter.setPen(mix(theme::kTextNav, Qt::white, selection()));
-    paintTextLine(painter, all.adjusted(left + kIconSize + kIconGap, 0, 0, 0), title);
+    paintTextLine(painter, all.adjusted(left + iconRoom(), 0, 0, 0), title);
 }
 
 void NaviPillButton::paintSurface(QPainter& painter) const {
@@ -74,7 +87,7 @@ void NaviPillButton::paintSurface(QPainter& painter) const {
 
 void NaviPillButton::paintIcon(QPainter& painter, const QRectF& frame) const {
     const NavTabLabel& label = labelOf(m_tab);
-    const QImage* const picture = AssetManager::shared().image(isSelected() ? label.iconActive : label.iconNormal);
+    const auto picture = AssetManager::shared().image(isSelected() ? label.iconActive : label.iconNormal);
     if (!picture) {
         return paintSymbol(painter, centred(frame, kSymbolSize), plainText(label.fallbackSymbol),
                            isSelected() ? kSymbolColor : Qt::white);

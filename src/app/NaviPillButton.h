@@ -16,6 +16,10 @@ public:
     NaviPillButton(NavTab tab, bool isSelected, std::function<void()> action, QWidget* parent);
 
     [[nodiscard]] NavTab tab() const { return m_tab; }
+    /// The least that the whole title takes, with the icon or without it.
+    [[nodiscard]] int leastWidth(bool hasIcon) const;
+    /// From the start it has one.
+    void setHasIcon(bool hasIcon);
 
 protected:
     [[nodiscard]] RingShape ringShape() const override;
@@ -23,11 +27,14 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    [[nodiscard]] double iconRoom() const { return iconRoom(m_hasIcon); }
+    [[nodiscard]] static double iconRoom(bool hasIcon);
     [[nodiscard]] QString shownTitle() const;
     void paintSurface(QPainter& painter) const;
     void paintIcon(QPainter& painter, const QRectF& frame) const;
 
     NavTab m_tab;
+    bool m_hasIcon = true;
 };
 
 }  // namespace lumo

@@ -17,6 +17,8 @@ constexpr double kRadius = 11.0;
 
 }  // namespace
 
+int NavigationBar::barHeight() { return theme::grown(36); }
+
 NavigationBar::NavigationBar(NavTab selected, QWidget* parent) : QWidget(parent), m_group(new FocusGroup({}, this)) {
     for (const NavTab tab : kAllTabs) {
         auto* const pill = new NaviPillButton(
@@ -38,10 +40,22 @@ void NavigationBar::paintEvent(QPaintEvent*) {
     paintPanel(painter, rect(), kRadius, theme::kInset, theme::kCardLine);
 }
 
+std::vector<Column> NavigationBar::columns(bool haveIcons) const {
+    std::vector<Column> columns;
+    for (const NaviPillButton* const pill : m_pills) {
+        columns.push_back({1.0, static_cast<double>(pill->leastWidth(haveIcons))});
+    }
+    return columns;
+}
+
 void NavigationBar::resizeEvent(QResizeEvent*) {
-    const std::vector<Column> columns(m_pills.size());
-    const auto extents = divide(width() - 2 * kInset, kGap, columns);
+    const int room = width() - 2 * kInset;
+    // Large titles come before icons, and where even they find no room the pills are alike.
+    const bool haveIcons = fitsInOneRow(room, kGap, columns(true));
+    const bool fits = haveIcons || fitsInOneRow(room, kGap, columns(false));
+    const auto extents = divide(room, kGap, fits ? columns(haveIcons) : std::vector<Column>(m_pills.size()));
     for (std::size_t i = 0; i < m_pills.size(); ++i) {
+        m_pills[i]->setHasIcon(haveIcons);
         m_pills[i]->setGeometry(kInset + extents[i].begin, kInset, extents[i].length, height() - 2 * kInset);
     }
 }

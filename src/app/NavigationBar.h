@@ -6,6 +6,7 @@
 
 #include "app/NavTab.h"
 #include "controls/Accessible.h"
+#include "controls/Columns.h"
 
 namespace lumo {
 
@@ -17,7 +18,7 @@ class NavigationBar final : public QWidget, public AccessibleSource {
     Q_OBJECT
 
 public:
-    static constexpr int kHeight = 36;
+    static int barHeight();
 
     NavigationBar(NavTab selected, QWidget* parent);
 
@@ -33,6 +34,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// Pills as wide as each other, unless a title needs more.
+    [[nodiscard]] std::vector<Column> columns(bool haveIcons) const;
+
     std::vector<NaviPillButton*> m_pills;
     FocusGroup* m_group;
 };

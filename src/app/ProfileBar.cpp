@@ -18,12 +18,14 @@ constexpr double kRadius = 9.0;
 
 }  // namespace
 
+int ProfileBar::barHeight() { return theme::grown(28); }
+
 ProfileBar::ProfileBar(QWidget* parent) : QWidget(parent), m_group(new FocusGroup({}, this)) {
     int x = kInset;
     for (std::int64_t number = 1; number <= kProfiles; ++number) {
         auto* const button =
             new PushButton(QString("Profile %1").arg(number), look::kProfile, this, QAccessible::RadioButton);
-        button->setGeometry(x, kInset, button->widthWith(kTextPadding), kHeight - 2 * kInset);
+        button->setGeometry(x, kInset, button->widthWith(kTextPadding), barHeight() - 2 * kInset);
         x += button->width() + kGap;
         connect(button, &QAbstractButton::clicked, this, [this, number] { emit chosen(number); });
         m_group->add(*button);

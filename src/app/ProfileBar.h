@@ -17,14 +17,14 @@ class ProfileBar final : public QWidget, public AccessibleSource {
     Q_OBJECT
 
 public:
-    static constexpr int kHeight = 28;
+    static int barHeight();
 
     explicit ProfileBar(QWidget* parent);
 
     /// From 1; a number without a button selects none.
     void setSelected(std::int64_t number);
 
-    [[nodiscard]] QSize sizeHint() const override { return {m_width, kHeight}; }
+    [[nodiscard]] QSize sizeHint() const override { return {m_width, barHeight()}; }
     QAccessibleInterface* makeAccessible() override;
 
 signals:

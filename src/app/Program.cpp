@@ -7,6 +7,7 @@
 #include "app/SharedObjects.h"
 #include "controls/Theme.h"
 #include "foundation/Identity.h"
+#include "platform/qt/OneInstance.h"
 #include "platform/qt/WindowSystem.h"
 
 namespace lumo {
@@ -23,8 +24,11 @@ void runProgram(QApplication& application, Platform& platform) {
     theme::apply(application);
     SharedObjects objects(platform);
     AppDelegate delegate;
-    QMetaObject::invokeMethod(
-        &application, [&delegate] { delegate.applicationDidFinishLaunching(); }, Qt::QueuedConnection);
+    const auto launch = [&delegate] {
+        delegate.applicationDidFinishLaunching();
+        one_instance::whenStartedAgain([&delegate] { delegate.applicationShouldHandleReopen(); });
+    };
+    QMetaObject::invokeMethod(&application, launch, Qt::QueuedConnection);
     QMetaObject::invokeMethod(&application, window_system::followMotionPreference, Qt::QueuedConnection);
     const int status = QApplication::exec();
     delegate.applicationWillTerminate();

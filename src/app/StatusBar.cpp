@@ -13,8 +13,9 @@ constexpr int kLineHeight = 1;
 constexpr int kGap = 14;  // on both sides of a separator, and behind the message
 constexpr int kChipGap = 8;
 constexpr int kSeparatorHeight = 12;
+constexpr int kLeastMessage = 100;
 
-int centred(int height) { return kLineHeight + (StatusBar::kHeight - kLineHeight - height) / 2; }
+int centred(int height) { return kLineHeight + (StatusBar::barHeight() - kLineHeight - height) / 2; }
 
 void placeAt(QWidget& item, int x, int width) {
     const int height = item.sizeHint().height();
@@ -22,13 +23,16 @@ void placeAt(QWidget& item, int x, int width) {
 }
 
 /// Returns where the item begins.
-int placeBefore(QWidget& item, int right) {
-    const int width = item.sizeHint().width();
+int placeBefore(QWidget& item, int right, int width) {
     placeAt(item, right - width, width);
     return right - width;
 }
 
+int placeBefore(QWidget& item, int right) { return placeBefore(item, right, item.sizeHint().width()); }
+
 }  // namespace
+
+int StatusBar::barHeight() { return theme::grown(28); }
 
 StatusBar::StatusBar(QWidget* parent)
     : QWidget(parent),
@@ -66,11 +70,23 @@ void StatusBar::paintEvent(QPaintEvent*) {
     }
 }
 
+/// What the fixed texts have to give up, so that something of the message can be read.
+int StatusBar::missingWidth() const {
+    int needed = theme::kWindowMargin + kLeastMessage + kGap + m_audio->sizeHint().width() + kChipGap +
+                 m_keys->sizeHint().width() + theme::kWindowMargin;
+    for (const TextLine* const text : m_fixedTexts) needed += kGap + 1 + kGap + text->sizeHint().width();
+    return std::max(0, needed - width());
+}
+
 void StatusBar::resizeEvent(QResizeEvent*) {
     m_separators.clear();
     int right = width() - theme::kWindowMargin;
+    int missing = missingWidth();
     for (TextLine* text : m_fixedTexts) {
-        m_separators.push_back(placeBefore(*text, right) - kGap - 1);
+        const int whole = text->sizeHint().width();
+        const int shown = std::max(0, whole - missing);
+        missing -= whole - shown;
+        m_separators.push_back(placeBefore(*text, right, shown) - kGap - 1);
         right = m_separators.back() - kGap;
     }
     const int chips = placeBefore(*m_audio, placeBefore(*m_keys, right) - kChipGap);

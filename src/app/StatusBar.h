@@ -18,7 +18,7 @@ class StatusBar final : public QWidget, public AccessibleSource {
     Q_OBJECT
 
 public:
-    static constexpr int kHeight = 28;
+    static int barHeight();
 
     explicit StatusBar(QWidget* parent);
 
@@ -34,6 +34,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    [[nodiscard]] int missingWidth() const;
     void addFixedText(std::string_view text);
 
     TextLine* m_message;

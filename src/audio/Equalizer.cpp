@@ -12,11 +12,16 @@ namespace {
 
 constexpr int kPadding = 8;
 constexpr int kBarsToNumbers = 6;
-constexpr int kNumberHeight = theme::kBandStyle.linePx;
-constexpr int kContentHeight = EqualizerBars::kHighestBar + kBarsToNumbers + kNumberHeight;
 constexpr int kSourceTop = 6;
+constexpr int kLeastMargin = 2;
+
+int numberHeight() { return theme::kBandStyle.linePx(); }
+
+int contentHeight() { return EqualizerBars::kHighestBar + kBarsToNumbers + numberHeight(); }
 
 }  // namespace
+
+int Equalizer::leastHeight() { return contentHeight() + 2 * kLeastMargin; }
 
 Equalizer::Equalizer(QWidget* parent)
     : QWidget(parent),
@@ -40,16 +45,16 @@ void Equalizer::paintEvent(QPaintEvent*) {
 
 void Equalizer::resizeEvent(QResizeEvent*) {
     const int inner = width() - 2 * kPadding;
-    const int barsTop = (height() - kContentHeight) / 2;
-    m_source->setGeometry(kPadding, kSourceTop, inner, kNumberHeight);
-    m_source->setVisible(barsTop >= kSourceTop + kNumberHeight + kPadding);
+    const int barsTop = (height() - contentHeight()) / 2;
+    m_source->setGeometry(kPadding, kSourceTop, inner, numberHeight());
+    m_source->setVisible(barsTop >= kSourceTop + numberHeight() + kPadding);
     m_bars->setGeometry(kPadding, barsTop, inner, EqualizerBars::kHeight);
     const int numbersTop = barsTop + EqualizerBars::kHighestBar + kBarsToNumbers;
     for (std::size_t band = 0; band < m_numbers.size(); ++band) {
         TextLine& number = *m_numbers[band];
         const int numberWidth = number.sizeHint().width();
         const double centre = kPadding + m_bars->cellX(band) + EqualizerBars::kCellWidth / 2.0;
-        number.setGeometry(qRound(centre - numberWidth / 2.0), numbersTop, numberWidth, kNumberHeight);
+        number.setGeometry(qRound(centre - numberWidth / 2.0), numbersTop, numberWidth, numberHeight());
     }
 }
 

@@ -16,6 +16,8 @@ class Equalizer final : public QWidget {
     Q_OBJECT
 
 public:
+    static int leastHeight();
+
     explicit Equalizer(QWidget* parent);
 
     /// What the levels come from: names the bars, and stands above them where there is room.

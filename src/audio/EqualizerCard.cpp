@@ -13,7 +13,6 @@ namespace lumo {
 namespace {
 
 constexpr int kLines = 2;
-constexpr int kLinesHeight = kLines * theme::kStreamLineStyle.linePx;
 
 struct Measures {
     int headingToLine;
@@ -24,7 +23,19 @@ struct Measures {
 constexpr Measures kUsual{6, 14, 36, 14};
 constexpr Measures kShort{4, 8, 28, 8};
 
+int linesHeight() { return kLines * theme::kStreamLineStyle.linePx(); }
+
+/// From the section's top.
+int wellTop(const Measures& measures) {
+    return Section::headingHeight() + measures.headingToLine + linesHeight() + measures.lineToToggle +
+           theme::grown(measures.toggleHeight) + measures.toggleToWell;
+}
+
 }  // namespace
+
+int EqualizerCard::leastHeight() {
+    return theme::kCardPadding + wellTop(kShort) + Equalizer::leastHeight() + theme::kCardPadding;
+}
 
 EqualizerCard::EqualizerCard(QWidget* parent)
     : QWidget(parent),
@@ -53,11 +64,11 @@ void EqualizerCard::place(const QRect& card, bool isShort) {
     const QRect inner = rect().adjusted(kPadding, kPadding, -kPadding, -kPadding);
     m_section->setGeometry(inner);
     const Measures& measures = isShort ? kShort : kUsual;
-    int top = Section::kHeadingHeight + measures.headingToLine;
-    m_line->setGeometry(0, top, inner.width(), kLinesHeight);
-    top += kLinesHeight + measures.lineToToggle;
-    m_toggle->setGeometry(0, top, inner.width(), measures.toggleHeight);
-    top += measures.toggleHeight + measures.toggleToWell;
+    const int lineTop = Section::headingHeight() + measures.headingToLine;
+    m_line->setGeometry(0, lineTop, inner.width(), linesHeight());
+    m_toggle->setGeometry(0, lineTop + linesHeight() + measures.lineToToggle, inner.width(),
+                          theme::grown(measures.toggleHeight));
+    const int top = wellTop(measures);
     m_equalizer->setGeometry(0, top, inner.width(), inner.height() - top);
 }
 

@@ -25,6 +25,8 @@ public:
     void setLevels(const BandLevels& levels);
     void setSource(std::string_view name);
     [[nodiscard]] PushControl& toggle() const;
+    /// On a short page.
+    [[nodiscard]] static int leastHeight();
     /// In the parent's coordinates; a short page has smaller gaps and a lower toggle.
     void place(const QRect& card, bool isShort);
 

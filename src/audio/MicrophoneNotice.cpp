@@ -18,10 +18,11 @@ constexpr int kSymbolX = 14;
 constexpr int kSymbolSize = 20;
 constexpr int kTextX = 46;
 constexpr int kTextToButton = 12;
-constexpr int kButtonHeight = 28;
 constexpr int kButtonPadding = 12;
 constexpr QColor kSymbolColor{0xFF, 0xB4, 0x5E};
 constexpr QColor kTextColor{0xDE, 0xDE, 0xE2};
+
+int buttonHeight() { return theme::grown(28); }
 
 }  // namespace
 
@@ -40,7 +41,7 @@ int MicrophoneNotice::textWidthWithin(int width) const {
 }
 
 int MicrophoneNotice::heightWithin(int width) const {
-    return std::max(m_text->heightWithin(textWidthWithin(width)), kButtonHeight) + 2 * kPadding;
+    return std::max(m_text->heightWithin(textWidthWithin(width)), buttonHeight()) + 2 * kPadding;
 }
 
 PushControl& MicrophoneNotice::button() const { return *m_grant; }
@@ -54,8 +55,8 @@ void MicrophoneNotice::paintEvent(QPaintEvent*) {
 
 void MicrophoneNotice::resizeEvent(QResizeEvent*) {
     m_text->setGeometry(kTextX, kPadding, textWidthWithin(width()), height() - 2 * kPadding);
-    m_grant->setGeometry(width() - theme::kCardPadding - buttonWidth(), (height() - kButtonHeight) / 2, buttonWidth(),
-                         kButtonHeight);
+    m_grant->setGeometry(width() - theme::kCardPadding - buttonWidth(), (height() - buttonHeight()) / 2, buttonWidth(),
+                         buttonHeight());
 }
 
 }  // namespace lumo

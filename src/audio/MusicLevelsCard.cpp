@@ -22,6 +22,8 @@ SliderSection::ValueText smoothnessText(double smoothness) {
 
 }  // namespace
 
+int MusicLevelsCard::cardHeight() { return theme::grown(66); }
+
 MusicLevelsCard::MusicLevelsCard(MainQueue main, QWidget* parent)
     : QWidget(parent),
       m_gain(new SliderSection({"GAIN FACTOR", kRange, gainText}, main, this)),
@@ -44,7 +46,7 @@ void MusicLevelsCard::resizeEvent(QResizeEvent*) {
     const auto halves = divide(width() - 2 * kSidePadding, kGap, std::array{Column{}, Column{}});
     const auto place = [](SliderSection& section, const Extent& half) {
         section.setGeometry(kSidePadding + half.begin - kRoom, theme::kCardPadding, half.length + 2 * kRoom,
-                            SliderSection::kHeight);
+                            SliderSection::sectionHeight());
     };
     place(*m_gain, halves[0]);
     place(*m_smoothness, halves[1]);

@@ -14,7 +14,7 @@ class MusicLevelsCard final : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int kHeight = 66;
+    static int cardHeight();
 
     MusicLevelsCard(MainQueue main, QWidget* parent);
 

@@ -5,6 +5,8 @@
 #include "audio/MusicModeTile.h"
 #include "audio/MusicModes.h"
 #include "controls/Columns.h"
+#include "controls/FocusGroup.h"
+#include "controls/Theme.h"
 
 namespace lumo {
 namespace {
@@ -14,11 +16,13 @@ constexpr int kColumnGap = 8;
 constexpr int kRowGap = 6;
 constexpr int kLowRowGap = 4;
 constexpr int kLowRow = 36;  // rows lower than this stand closer together
+constexpr int kLowestRow = 31;
 constexpr std::array<Column, 2> kColumns{Column{0.92}, Column{1.08}};
 
 std::vector<Extent> rowsWithin(int height) {
     const std::vector<Column> rows(kRows);
-    const int gap = height < static_cast<int>(kRows) * (kLowRow + kRowGap) - kRowGap ? kLowRowGap : kRowGap;
+    const int gap =
+        height < static_cast<int>(kRows) * (theme::grown(kLowRow) + kRowGap) - kRowGap ? kLowRowGap : kRowGap;
     return divide(height, gap, rows);
 }
 
@@ -32,6 +36,7 @@ MusicModeList::MusicModeList(QWidget* parent)
         m_group->add(*tile);
         m_tiles.push_back(tile);
     }
+    setMinimumHeight(static_cast<int>(kRows) * (theme::grown(kLowestRow) + kLowRowGap) - kLowRowGap);
 }
 
 void MusicModeList::setSelected(std::int64_t id) {

@@ -9,7 +9,7 @@
 #include "audio/MusicLevelsCard.h"
 #include "audio/MusicModeList.h"
 #include "controls/Card.h"
-#include "controls/Columns.h"
+#include "controls/CardRows.h"
 #include "controls/PushControl.h"
 #include "controls/Section.h"
 #include "controls/Theme.h"
@@ -19,7 +19,8 @@
 namespace lumo {
 namespace {
 
-constexpr std::array<Column, 2> kColumns{Column{384.0}, Column{532.0, 512.0}};
+constexpr int kLeastEqualizer = 328;
+constexpr int kLeastModes = 512;
 
 Card* makeModesCard(MusicModeList* modes, QWidget* parent) {
     auto* const section = new Section("MUSIC EFFECT MODES", nullptr);
@@ -47,7 +48,6 @@ MusicVisualizerView::MusicVisualizerView(VexaProtocol& link, AudioVisualizerEngi
       m_visualizerChanges(visualizer.observe([this] { m_equalizerRefresh.request(); })),
       m_stateChanges(state.observe([this] { m_refresh.request(); })),
       m_permissionChanges(permissions.observe([this] { m_refresh.request(); })) {
-    setMinimumHeight(theme::kShortestPage);
     connectControls();
     refreshEqualizer();
     refresh();
@@ -86,16 +86,32 @@ void MusicVisualizerView::showNotice(bool isShown) {
 void MusicVisualizerView::resizeEvent(QResizeEvent*) { place(); }
 
 void MusicVisualizerView::place() {
-    const auto columns = divide(width(), theme::kCardGap, kColumns);
-    const auto [left, leftWidth] = columns[0];
-    const auto [right, rightWidth] = columns[1];
-    const int noticeHeight = m_notice->heightWithin(leftWidth);
-    const int equalizerHeight = height() - (m_showsNotice ? noticeHeight + theme::kCardGap : 0);
-    m_equalizer->place({left, 0, leftWidth, equalizerHeight}, theme::isShort(height()));
-    m_notice->setGeometry(left, height() - noticeHeight, leftWidth, noticeHeight);
-    const int levelsTop = height() - MusicLevelsCard::kHeight;
-    m_modesCard->setGeometry(right, 0, rightWidth, levelsTop - theme::kCardGap);
-    m_levels->setGeometry(right, levelsTop, rightWidth, MusicLevelsCard::kHeight);
+    const auto least = [](int width) { return static_cast<double>(theme::widened(width)); };
+    const CardColumn equalizer{{384.0, least(kLeastEqualizer)},
+                               [this](int width) { return EqualizerCard::leastHeight() + noticeRoom(width); },
+                               [this](const QRect& place) { placeEqualizer(place); }};
+    const CardColumn modes{
+        {532.0, least(kLeastModes)},
+        [this](int) { return m_modesCard->leastHeight() + theme::kCardGap + MusicLevelsCard::cardHeight(); },
+        [this](const QRect& place) { placeModes(place); }};
+    placeCards(*this, theme::kShortestPage, std::array{equalizer, modes});
+}
+
+/// With the gap above it.
+int MusicVisualizerView::noticeRoom(int width) const {
+    return m_showsNotice ? theme::kCardGap + m_notice->heightWithin(width) : 0;
+}
+
+void MusicVisualizerView::placeEqualizer(const QRect& place) {
+    const int noticeHeight = m_notice->heightWithin(place.width());
+    m_equalizer->place(place.adjusted(0, 0, 0, -noticeRoom(place.width())), theme::isShort(place.height()));
+    m_notice->setGeometry(place.left(), place.bottom() + 1 - noticeHeight, place.width(), noticeHeight);
+}
+
+void MusicVisualizerView::placeModes(const QRect& place) {
+    const int levelsHeight = MusicLevelsCard::cardHeight();
+    m_modesCard->setGeometry(place.adjusted(0, 0, 0, -levelsHeight - theme::kCardGap));
+    m_levels->setGeometry(place.left(), place.bottom() + 1 - levelsHeight, place.width(), levelsHeight);
 }
 
 }  // namespace lumo

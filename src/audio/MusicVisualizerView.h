@@ -32,6 +32,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void placeEqualizer(const QRect& place);
+    void placeModes(const QRect& place);
+    [[nodiscard]] int noticeRoom(int width) const;
     void connectControls();
     void refreshEqualizer();
     void refresh();

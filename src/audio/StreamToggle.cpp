@@ -16,7 +16,7 @@ constexpr double kDotGap = 6.0;
 constexpr double kLeastPadding = 8.0;
 
 constexpr QColor kInk{0x04, 0x16, 0x1B};
-constexpr PressColors kStreaming{{0x2C, 0xC9, 0xEE, 179}, {0x2C, 0xC9, 0xEE, 209}, {0x2C, 0xC9, 0xEE, 148}};
+constexpr PressColors kStreaming{{0x2C, 0xC9, 0xEE, 179}, {0x2C, 0xC9, 0xEE, 209}, {0x2C, 0xC9, 0xEE, 163}};
 constexpr PressColors kStopped{theme::white(10), theme::white(15), theme::white(7)};
 constexpr QColor kStreamingLine = theme::white(18);
 constexpr QColor kDotStreaming{0x22, 0xE0, 0x6A};

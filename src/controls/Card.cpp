@@ -8,8 +8,16 @@
 #include "controls/Theme.h"
 
 namespace lumo {
+namespace {
+
+constexpr int kPadding = theme::kCardPadding;
+constexpr int kLeastFoot = 6;
+
+}  // namespace
 
 Card::Card(Section* section, QWidget* parent) : QWidget(parent), m_section(section) { m_section->setParent(this); }
+
+int Card::leastHeight() const { return kPadding + m_section->minimumHeight() + kLeastFoot; }
 
 void Card::paintEvent(QPaintEvent*) {
     QPainter painter(this);
@@ -17,7 +25,6 @@ void Card::paintEvent(QPaintEvent*) {
 }
 
 void Card::resizeEvent(QResizeEvent*) {
-    constexpr int kPadding = theme::kCardPadding;
     // In the smallest window a section may reach into the padding at the foot.
     const int room = std::max(height() - 2 * kPadding, m_section->minimumHeight());
     m_section->setGeometry(kPadding, kPadding, width() - 2 * kPadding, room);

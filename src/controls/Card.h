@@ -15,6 +15,8 @@ class Card final : public QWidget {
 public:
     Card(Section* section, QWidget* parent);
 
+    [[nodiscard]] int leastHeight() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

@@ -57,7 +57,7 @@ void paintMarker(QPainter& painter, const QPointF& centre) {
 
 }  // namespace
 
-ColorWheel::ColorWheel(QImage picture, MainQueue main, QWidget* parent)
+ColorWheel::ColorWheel(PictureSource picture, MainQueue main, QWidget* parent)
     : QWidget(parent),
       m_disc(std::move(picture)),
       m_reports(main, kPace, [this](const Color& color) { emit picked(color); }) {

@@ -1,13 +1,13 @@
 // The disc on which a colour is picked by hue and saturation, at full brightness.
 #pragma once
 
-#include <QImage>
 #include <QWidget>
 #include <cstdint>
 
 #include "controls/Accessible.h"
 #include "controls/FocusRing.h"
 #include "controls/PacedColor.h"
+#include "controls/PictureSource.h"
 #include "controls/WheelDisc.h"
 #include "foundation/Color.h"
 #include "foundation/RunLoop.h"
@@ -23,8 +23,8 @@ class ColorWheel final : public QWidget, public AccessibleSource, public RingWea
 public:
     static constexpr int kRoom = 8;  // around the picture, for a marker at the rim
 
-    /// The picture as in `WheelDisc`; null for a plain one.
-    ColorWheel(QImage picture, MainQueue main, QWidget* parent);
+    /// The picture as in `WheelDisc`.
+    ColorWheel(PictureSource picture, MainQueue main, QWidget* parent);
 
     /// From the model: tells nobody but assistive technology. The marker follows it once the user lets go.
     void setColor(const Color& color);

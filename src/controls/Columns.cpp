@@ -1,5 +1,6 @@
 #include "controls/Columns.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace lumo {
@@ -47,7 +48,51 @@ std::vector<double> widthsOf(std::span<const Column> columns, double room) {
     return widths;
 }
 
+using Rows = std::vector<std::size_t>;
+
+double leastOf(int gap, std::span<const Column> row) {
+    double least = -gap;
+    for (const Column& column : row) least += column.least + gap;
+    return least;
+}
+
+/// What the row takes that needs most. A column that has a row for itself takes what there is.
+double widestRow(int width, int gap, std::span<const Column> columns, const Rows& rows) {
+    double widest = 0.0;
+    for (const std::size_t count : rows) {
+        const double least = leastOf(gap, columns.first(count));
+        widest = std::max(widest, count == 1 ? std::min<double>(least, width) : least);
+        columns = columns.subspan(count);
+    }
+    return widest;
+}
+
+/// Each bit of `breaks` stands between two columns.
+Rows brokenAt(unsigned breaks, std::size_t columns) {
+    Rows rows{1};
+    for (std::size_t i = 1; i < columns; ++i) {
+        if ((breaks >> (i - 1) & 1U) != 0) rows.push_back(0);
+        ++rows.back();
+    }
+    return rows;
+}
+
 }  // namespace
+
+bool fitsInOneRow(int width, int gap, std::span<const Column> columns) { return leastOf(gap, columns) <= width; }
+
+std::vector<std::size_t> rowsOf(int width, int gap, std::span<const Column> columns, const Rows& wanted) {
+    if (widestRow(width, gap, columns, wanted) <= width) return wanted;
+    const unsigned ways = 1U << (columns.size() - 1);
+    Rows best(columns.size(), 1);
+    for (unsigned breaks = 0; breaks < ways; ++breaks) {
+        const Rows rows = brokenAt(breaks, columns.size());
+        const double widest = widestRow(width, gap, columns, rows);
+        if (widest > width || rows.size() > best.size()) continue;
+        if (rows.size() < best.size() || widest < widestRow(width, gap, columns, best)) best = rows;
+    }
+    return best;
+}
 
 std::vector<Extent> divide(int width, int gap, std::span<const Column> columns) {
     const double room = width - gap * (static_cast<double>(columns.size()) - 1.0);

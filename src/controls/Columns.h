@@ -1,4 +1,4 @@
-// Divides a width among columns that stand side by side.
+// Divides a width among columns that stand side by side, or in rows where they find no room.
 #pragma once
 
 #include <span>
@@ -20,5 +20,13 @@ struct Extent {
 /// Columns of whole points with `gap` between them, from 0 to `width`: each gets its share of the room, and those that
 /// would get less than their least get that instead.
 [[nodiscard]] std::vector<Extent> divide(int width, int gap, std::span<const Column> columns);
+
+/// Whether all of them get their least.
+[[nodiscard]] bool fitsInOneRow(int width, int gap, std::span<const Column> columns);
+
+/// How many of them stand in each row: as many as `wanted` says, if all of those get their least. Else in as few rows
+/// as they can, which then need about the same; a column without room even for itself is alone.
+[[nodiscard]] std::vector<std::size_t> rowsOf(int width, int gap, std::span<const Column> columns,
+                                              const std::vector<std::size_t>& wanted);
 
 }  // namespace lumo

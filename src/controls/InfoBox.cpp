@@ -9,13 +9,22 @@
 namespace lumo {
 namespace {
 
-constexpr int kMostLines = 3;
+constexpr int kDesignedLines = 3;
+constexpr int kLowLines = 2;
 constexpr int kPadding = 12;
+constexpr int kAboveAndBelow = 17;
+
+/// Larger letters break the same text into one line more.
+int mostLines() { return theme::textScale() > 1.0 ? kDesignedLines + 1 : kDesignedLines; }
 
 }  // namespace
 
+int InfoBox::lowBoxHeight() { return kLowLines * theme::kRowStyle.linePx() + kAboveAndBelow; }
+
+int InfoBox::boxHeight() { return mostLines() * theme::kRowStyle.linePx() + kAboveAndBelow; }
+
 InfoBox::InfoBox(QWidget* parent)
-    : QWidget(parent), m_text(new TextBlock(theme::kRowStyle, theme::kTextInfo, kMostLines, this)) {}
+    : QWidget(parent), m_text(new TextBlock(theme::kRowStyle, theme::kTextInfo, mostLines(), this)) {}
 
 void InfoBox::setText(std::string_view text) { m_text->setText(text); }
 

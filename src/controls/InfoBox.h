@@ -15,6 +15,11 @@ class InfoBox final : public QWidget {
 public:
     explicit InfoBox(QWidget* parent);
 
+    /// For the longest of its texts in its usual, narrow place.
+    static int boxHeight();
+    /// Where it is as wide as the keyboard.
+    static int lowBoxHeight();
+
     /// Untrusted UTF-8.
     void setText(std::string_view text);
 

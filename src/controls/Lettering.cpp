@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "controls/TextShape.h"
+
 namespace lumo {
 namespace {
 
@@ -12,11 +14,6 @@ namespace {
 constexpr double kFractionScale = 0.1;
 
 bool isWhole(double size) { return size == std::floor(size); }
-
-theme::TextStyle scaledUp(theme::TextStyle style, double scale) {
-    style.sizePx = std::round(style.sizePx / scale);
-    return style;
-}
 
 /// Letters that stand on a whole row of pixels are sharp at their feet.
 QPointF onWholePixel(const QPainter& painter, QPointF baseline) {
@@ -51,10 +48,12 @@ qsizetype lettersAtFront(QStringView text) {
 
 /// FreeType thickens the stems of fonts like Inter: as glyphs on a dark ground, regular would look semibold.
 void drawOutlines(QPainter& painter, const QPointF& baseline, const QString& text) {
-    QPainterPath outlines;
-    outlines.addText(baseline, painter.font(), text);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(outlines, painter.pen().brush());
+    const QBrush brush = painter.pen().brush();
+    // One by one: what Qt's filling costs grows with all that it finds on a row, and much of it goes to other threads.
+    for (const TextShape::Letter& letter : textShape(text, painter.font()).letters) {
+        painter.fillPath(letter.outline->translated(baseline + letter.foot), brush);
+    }
 }
 
 /// Other fonts may have the same sign in black and white, and would come first.
@@ -115,27 +114,27 @@ void atBaseline(QPainter& painter, const QRectF& rect, const QFont& font, double
 }  // namespace
 
 Lettering::Lettering(const theme::TextStyle& style)
-    : m_scale(isWhole(style.sizePx) ? 1.0 : kFractionScale),
+    : m_scale(isWhole(style.sizePx()) ? 1.0 : kFractionScale),
       m_isTabular(style.isTabular),
       m_isMonospaced(style.isMonospaced) {
-    m_font = theme::font(scaledUp(style, m_scale));
+    m_font = theme::font(style, 1.0 / m_scale);
 }
 
 double Lettering::advanceOf(QChar letter) const {
-    return QFontMetricsF(m_font).horizontalAdvance(letter.isDigit() ? QChar('0') : letter);
+    return textShape(letter.isDigit() ? QString('0') : QString(letter), m_font).advance;
 }
 
 QString Lettering::set(const QString& text) const { return m_isMonospaced ? text : typeset(text); }
 
 double Lettering::widthOf(const QString& text) const {
-    if (!m_isTabular) return QFontMetricsF(m_font).horizontalAdvance(set(text)) * m_scale;
+    if (!m_isTabular) return textShape(set(text), m_font).advance * m_scale;
     double width = 0.0;
     for (const QChar letter : text) width += advanceOf(letter);
     return width * m_scale;
 }
 
 QString Lettering::elided(const QString& text, double width) const {
-    if (m_isTabular && widthOf(text) <= width) return text;
+    if (widthOf(text) <= width) return m_isTabular ? text : set(text);
     return QFontMetricsF(m_font).elidedText(set(text), Qt::ElideRight, width / m_scale);
 }
 
@@ -144,7 +143,7 @@ void Lettering::paint(QPainter& painter, const QRectF& rect, const QString& text
         if (!m_isTabular) return drawLetters(painter, {}, set(text));
         double x = 0.0;
         for (const QChar letter : text) {
-            const double spare = advanceOf(letter) - QFontMetricsF(m_font).horizontalAdvance(letter);
+            const double spare = advanceOf(letter) - textShape(QString(letter), m_font).advance;
             drawLetters(painter, {x + spare / 2.0, 0.0}, QString(letter));
             x += advanceOf(letter);
         }
@@ -154,9 +153,7 @@ void Lettering::paint(QPainter& painter, const QRectF& rect, const QString& text
 QList<QTextLayout::FormatRange> Lettering::formats(const QString& text) const { return emojiFormats(text, m_font); }
 
 QPainterPath Lettering::outlines(const QString& text) const {
-    QPainterPath path;
-    path.addText({}, m_font, set(text));
-    return QTransform::fromScale(m_scale, m_scale).map(path);
+    return QTransform::fromScale(m_scale, m_scale).map(textShape(set(text), m_font).outlines());
 }
 
 QString typeset(const QString& text) {

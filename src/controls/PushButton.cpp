@@ -103,6 +103,10 @@ int PushButton::widthWith(int padding) const {
     return static_cast<int>(std::lround(symbolRoom() + m_lettering.widthOf(text()))) + 2 * padding;
 }
 
+QSize PushButton::sizeHint() const {
+    return {static_cast<int>(std::ceil(symbolRoom() + m_lettering.widthOf(text()) + 2.0 * kLeastPadding)), height()};
+}
+
 RingShape PushButton::ringShape() const { return ringAround(rect(), m_look.radius); }
 
 QString PushButton::toolTipText() const { return typeset(shownText()) == typeset(text()) ? QString() : text(); }

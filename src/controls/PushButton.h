@@ -70,6 +70,8 @@ public:
 
     /// With that much room left and right of the text.
     [[nodiscard]] int widthWith(int padding) const;
+    /// With the least room; the height is as it is.
+    [[nodiscard]] QSize sizeHint() const override;
 
 protected:
     [[nodiscard]] RingShape ringShape() const override;

@@ -8,7 +8,7 @@
 namespace lumo {
 namespace {
 
-constexpr int kContentTop = Section::kHeadingHeight + theme::kHeadingToContent;
+int contentTop() { return Section::headingHeight() + theme::kHeadingToContent; }
 
 }  // namespace
 
@@ -24,18 +24,26 @@ Section::Section(std::string_view heading, QWidget* parent, int margin)
 Section::Section(std::string_view heading, const theme::TextStyle& style, QWidget* parent)
     : Section(heading, style, theme::kTextSection, parent, 0) {}
 
+int Section::headingHeight() { return theme::kSectionStyle.linePx(); }
+
 void Section::setContent(QWidget* content) {
     m_content = content;
     m_content->setParent(this);
-    setMinimumHeight(kContentTop + content->minimumHeight());
+    setMinimumHeight(contentTop() + content->minimumHeight());
 }
 
 QAccessibleInterface* Section::makeAccessible() { return new AccessibleGroup(*this, *m_heading); }
 
+void Section::placeHeading(int room) {
+    const QSize whole = m_heading->sizeHint();
+    m_heading->setGeometry(m_margin, 0, std::min(room, whole.width()), whole.height());
+}
+
+int Section::headingWidth() const { return m_heading->sizeHint().width(); }
+
 void Section::resizeEvent(QResizeEvent*) {
-    const int headingWidth = std::min(width() - 2 * m_margin, m_heading->sizeHint().width());
-    m_heading->setGeometry(m_margin, 0, headingWidth, m_heading->sizeHint().height());
-    if (m_content) m_content->setGeometry(0, kContentTop, width(), height() - kContentTop);
+    placeHeading(width() - 2 * m_margin);
+    if (m_content) m_content->setGeometry(0, contentTop(), width(), height() - contentTop());
 }
 
 }  // namespace lumo

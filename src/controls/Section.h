@@ -16,7 +16,7 @@ class Section : public QWidget, public AccessibleSource {
     Q_OBJECT
 
 public:
-    static constexpr int kHeadingHeight = 16;
+    static int headingHeight();
 
     Section(std::string_view heading, QWidget* parent, int margin = 0);
     /// Without a margin, in a style of its own.
@@ -30,6 +30,9 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    /// Within that width from the margin.
+    void placeHeading(int room);
+    [[nodiscard]] int headingWidth() const;
 
 private:
     int m_margin;

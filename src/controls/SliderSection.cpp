@@ -5,11 +5,12 @@
 #include "controls/PlainText.h"
 #include "controls/Slider.h"
 #include "controls/TextLine.h"
+#include "controls/Theme.h"
 
 namespace lumo {
 namespace {
 
-constexpr int kSliderTop = 20;
+constexpr int kHeadingToValue = 6;
 static_assert(SliderSection::kRoom == Slider::kSideRoom);
 
 }  // namespace
@@ -26,6 +27,8 @@ SliderSection::SliderSection(Subject subject, MainQueue main, QWidget* parent)
     connect(m_slider, &Slider::editingChanged, this, &SliderSection::edited);
 }
 
+int SliderSection::sectionHeight() { return theme::grown(44); }
+
 void SliderSection::setValue(double value) {
     m_slider->setValue(value);
     const ValueText shown = m_textOf(value);
@@ -34,9 +37,13 @@ void SliderSection::setValue(double value) {
     if (m_value->setText(shown.text)) placeValue();
 }
 
+int SliderSection::leastWidth() const {
+    return kRoom + headingWidth() + kHeadingToValue + m_value->sizeHint().width() + m_unit->sizeHint().width() + kRoom;
+}
+
 void SliderSection::resizeEvent(QResizeEvent* event) {
     Section::resizeEvent(event);
-    m_slider->placeHitArea(QRect(kRoom, kSliderTop, width() - 2 * kRoom, Slider::kHitHeight));
+    m_slider->placeHitArea(QRect(kRoom, theme::grown(20), width() - 2 * kRoom, Slider::kHitHeight));
     placeValue();
 }
 
@@ -44,8 +51,9 @@ void SliderSection::placeValue() {
     const int unitWidth = m_unit->sizeHint().width();
     const int valueWidth = m_value->sizeHint().width();
     const int unitX = width() - kRoom - unitWidth;
-    m_unit->setGeometry(unitX, 0, unitWidth, kHeadingHeight);
-    m_value->setGeometry(unitX - valueWidth, 0, valueWidth, kHeadingHeight);
+    m_unit->setGeometry(unitX, 0, unitWidth, headingHeight());
+    placeHeading(unitX - valueWidth - kHeadingToValue - kRoom);
+    m_value->setGeometry(unitX - valueWidth, 0, valueWidth, headingHeight());
 }
 
 }  // namespace lumo

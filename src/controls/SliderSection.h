@@ -19,7 +19,7 @@ class SliderSection final : public Section {
     Q_OBJECT
 
 public:
-    static constexpr int kHeight = 44;
+    static int sectionHeight();
     static constexpr int kRoom = 6;  // beside its texts and its track, for a knob at an end of the track
 
     /// What the value reads: a text, and a small unit beside it that may be empty.
@@ -39,6 +39,8 @@ public:
     SliderSection(Subject subject, MainQueue main, QWidget* parent);
 
     void setValue(double value);
+    /// In which heading and value, as it reads now, stand side by side.
+    [[nodiscard]] int leastWidth() const;
 
 signals:
     void valueChanged(double value);

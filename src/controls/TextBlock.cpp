@@ -10,14 +10,14 @@
 namespace lumo {
 
 TextBlock::TextBlock(const theme::TextStyle& style, const QColor& color, int mostLines, QWidget* parent)
-    : QWidget(parent), m_lettering(style), m_color(color), m_linePx(style.linePx), m_mostLines(mostLines) {}
+    : QWidget(parent), m_lettering(style), m_color(color), m_linePx(style.linePx()), m_mostLines(mostLines) {}
 
 void TextBlock::setText(std::string_view text) {
     const QString plain = plainText(text);
     if (plain == m_text) return;
     m_text = plain;
     setAccessibleName(m_text);
-    breakLines();
+    m_shown.reset();
     update();
 }
 
@@ -25,7 +25,7 @@ QAccessibleInterface* TextBlock::makeAccessible() { return new QAccessibleWidget
 
 bool TextBlock::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QWidget::event(event);
-    showPlainToolTip(static_cast<QHelpEvent*>(event)->globalPos(), m_isElided ? m_text : QString(), this);
+    showPlainToolTip(static_cast<QHelpEvent*>(event)->globalPos(), shown().isElided ? m_text : QString(), this);
     return true;
 }
 
@@ -54,23 +54,23 @@ TextBlock::Broken TextBlock::broken(int width) const {
     return result;
 }
 
-void TextBlock::breakLines() {
-    auto [lines, isElided] = broken(width());
-    m_lines = std::move(lines);
-    m_isElided = isElided;
+const TextBlock::Broken& TextBlock::shown() const {
+    if (!m_shown) m_shown = broken(width());
+    return *m_shown;
 }
 
 void TextBlock::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(m_color);
-    double top = (height() - m_linePx * static_cast<double>(m_lines.size())) / 2.0;
-    for (const QString& line : m_lines) {
+    const QStringList& lines = shown().lines;
+    double top = (height() - m_linePx * static_cast<double>(lines.size())) / 2.0;
+    for (const QString& line : lines) {
         const double left = m_isCentred ? (width() - m_lettering.widthOf(line)) / 2.0 : 0.0;
         m_lettering.paint(painter, QRectF(left, top, width() - left, m_linePx), line);
         top += m_linePx;
     }
 }
 
-void TextBlock::resizeEvent(QResizeEvent*) { breakLines(); }
+void TextBlock::resizeEvent(QResizeEvent*) { m_shown.reset(); }
 
 }  // namespace lumo

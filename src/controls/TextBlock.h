@@ -3,6 +3,7 @@
 
 #include <QStringList>
 #include <QWidget>
+#include <optional>
 #include <string_view>
 
 #include "controls/Accessible.h"
@@ -25,8 +26,8 @@ public:
     /// What the lines take within that width.
     [[nodiscard]] int heightWithin(int width) const;
     [[nodiscard]] const QString& text() const { return m_text; }
-    [[nodiscard]] const QStringList& lines() const { return m_lines; }
-    [[nodiscard]] bool isElided() const { return m_isElided; }
+    [[nodiscard]] const QStringList& lines() const { return shown().lines; }
+    [[nodiscard]] bool isElided() const { return shown().isElided; }
 
     QAccessibleInterface* makeAccessible() override;
 
@@ -41,15 +42,14 @@ private:
         bool isElided = false;
     };
     [[nodiscard]] Broken broken(int width) const;
-    void breakLines();
+    [[nodiscard]] const Broken& shown() const;
 
     Lettering m_lettering;
     QColor m_color;
     int m_linePx;
     int m_mostLines;
     QString m_text;
-    QStringList m_lines;
-    bool m_isElided = false;
+    mutable std::optional<Broken> m_shown;  // none until somebody looks: before that it has no width of its own
     bool m_isCentred = false;
 };
 

@@ -10,14 +10,14 @@
 
 namespace lumo {
 TextLine::TextLine(const theme::TextStyle& style, const QColor& color, QWidget* parent)
-    : QWidget(parent), m_lettering(style), m_color(color), m_linePx(style.linePx) {}
+    : QWidget(parent), m_lettering(style), m_color(color), m_linePx(style.linePx()) {}
 
 bool TextLine::setText(std::string_view text) {
     const QString plain = plainText(text);
     if (plain == m_text) return false;
     m_text = plain;
     setAccessibleName(m_text);
-    m_shown = elided(width());
+    m_shown.reset();
     update();
     return true;
 }
@@ -41,10 +41,15 @@ bool TextLine::event(QEvent* event) {
 void TextLine::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(m_color);
-    m_lettering.paint(painter, rect(), m_shown);
+    m_lettering.paint(painter, rect(), shown());
 }
 
-void TextLine::resizeEvent(QResizeEvent*) { m_shown = elided(width()); }
+void TextLine::resizeEvent(QResizeEvent*) { m_shown.reset(); }
+
+const QString& TextLine::shown() const {
+    if (!m_shown) m_shown = elided(width());
+    return *m_shown;
+}
 
 QString TextLine::elided(int width) const { return m_lettering.elided(m_text, width); }
 

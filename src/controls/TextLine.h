@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <optional>
 #include <string_view>
 
 #include "controls/Accessible.h"
@@ -19,7 +20,7 @@ public:
     /// Untrusted UTF-8. True when it differs from what is shown.
     bool setText(std::string_view text);
     [[nodiscard]] const QString& text() const { return m_text; }
-    [[nodiscard]] bool isElided() const { return typeset(m_shown) != typeset(m_text); }
+    [[nodiscard]] bool isElided() const { return typeset(shown()) != typeset(m_text); }
 
     /// What the whole text takes.
     [[nodiscard]] QSize sizeHint() const override;
@@ -35,6 +36,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    [[nodiscard]] const QString& shown() const;
     [[nodiscard]] QString elided(int width) const;
     [[nodiscard]] int widthOf(const QString& text) const;
 
@@ -42,7 +44,7 @@ private:
     QColor m_color;
     int m_linePx;
     QString m_text;
-    QString m_shown;
+    mutable std::optional<QString> m_shown;  // none until somebody looks: before that it has no width of its own
 };
 
 /// Hover help that takes the text as it is, also when it looks like mark-up. Empty text takes the help away.

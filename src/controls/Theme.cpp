@@ -3,14 +3,15 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QPalette>
+#include <QScreen>
 #include <QStyleFactory>
 #include <QToolTip>
+#include <cmath>
 
 namespace lumo::theme {
 namespace {
 
-QStringList interfaceFamilies() {
-    const QStringList system = QFontDatabase::systemFont(QFontDatabase::GeneralFont).families();
+QStringList interfaceFamilies(const QStringList& system) {
 #ifdef Q_OS_MACOS
     return system;
 #else
@@ -18,9 +19,17 @@ QStringList interfaceFamilies() {
 #endif
 }
 
-QStringList monospacedFamilies() {
-    return QStringList{"SF Mono", "Menlo", "DejaVu Sans Mono"} +
-           QFontDatabase::systemFont(QFontDatabase::FixedFont).families();
+/// What the desktop says about fonts, asked once: apply() is the first to need it, on the main thread.
+struct Families {
+    QFont general = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    QStringList interface = interfaceFamilies(general.families());
+    QStringList monospaced = QStringList{"SF Mono", "Menlo", "DejaVu Sans Mono"} +
+                             QFontDatabase::systemFont(QFontDatabase::FixedFont).families();
+};
+
+const Families& families() {
+    static const Families known;
+    return known;
 }
 
 QPalette darkPalette() {
@@ -32,20 +41,29 @@ QPalette darkPalette() {
     return palette;
 }
 
+/// What was asked for: to say what was found, Qt would have to load the font, which nothing is written in.
+double pointsOf(const QFont& font, double dotsPerInch) {
+    constexpr double kPointsPerInch = 72.0;
+    return font.pixelSize() > 0 ? font.pixelSize() * kPointsPerInch / dotsPerInch : font.pointSizeF();
+}
+
 }  // namespace
 
-QFont font(const TextStyle& style) {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    font.setFamilies(style.isMonospaced ? monospacedFamilies() : interfaceFamilies());
-    font.setPixelSize(static_cast<int>(style.sizePx));
+QFont font(const TextStyle& style, double times) {
+    QFont font = families().general;
+    font.setFamilies(style.isMonospaced ? families().monospaced : families().interface);
+    const double pixels = std::round(style.sizePx() * times);
+    font.setPixelSize(static_cast<int>(pixels));
     font.setWeight(style.weight);
     font.setItalic(false);
     font.setHintingPreference(QFont::PreferNoHinting);
-    font.setLetterSpacing(QFont::AbsoluteSpacing, style.trackingEm * style.sizePx);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, style.trackingEm * pixels);
     return font;
 }
 
 void apply(QApplication&) {
+    const double dotsPerInch = QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+    setTextScale(textScaleFor(pointsOf(families().general, dotsPerInch), dotsPerInch));
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setPalette(darkPalette());
     QApplication::setFont(font(kRowStyle));

@@ -3,6 +3,9 @@
 
 #include <QColor>
 #include <QFont>
+#include <cmath>
+
+#include "controls/TextScale.h"
 
 class QApplication;
 
@@ -97,13 +100,19 @@ inline constexpr QColor kTextPopup = white(80);
 inline constexpr QColor kTextExplainer = white(70);
 inline constexpr QColor kTextNotice{0xD6, 0xD6, 0xDA};
 
+/// Sizes are the design's: what letters and lines take is more where the desktop wants larger ones.
 struct TextStyle {
-    double sizePx = 12.0;
-    int linePx = 16;
+    double designedPx = 12.0;
+    int designedLinePx = 16;
     QFont::Weight weight = QFont::Normal;
     double trackingEm = 0.0;
     bool isTabular = false;     // figures of equal width
     bool isMonospaced = false;  // all letters of equal width
+    bool isInPicture = false;   // and stays as large as the picture is
+
+    [[nodiscard]] double scale() const { return isInPicture ? 1.0 : textScale(); }
+    [[nodiscard]] double sizePx() const { return designedPx * scale(); }
+    [[nodiscard]] int linePx() const { return static_cast<int>(std::lround(designedLinePx * scale())); }
 };
 inline constexpr TextStyle kBrandStyle{13, 16, QFont::DemiBold, 0.09};
 inline constexpr TextStyle kSectionStyle{11, 16, QFont::DemiBold, 0.06};
@@ -151,9 +160,9 @@ inline constexpr TextStyle kExplainerStyle{12, 17, QFont::Normal};
 inline constexpr TextStyle kNoticeStyle{12, 18, QFont::Normal};
 inline constexpr TextStyle kToastTitleStyle{12.5, 18, QFont::DemiBold};
 
-/// The interface font in that style, its size cut to whole pixels, unhinted so that letters stand where they belong and
-/// not on whole pixels.
-[[nodiscard]] QFont font(const TextStyle& style);
+/// The interface font in that style, so many times as large, its size rounded to whole pixels, unhinted so that letters
+/// stand where they belong and not on whole pixels.
+[[nodiscard]] QFont font(const TextStyle& style, double times = 1.0);
 
 inline constexpr double kPopupRadius = 16.0;
 inline constexpr double kCardRadius = 12.0;
@@ -174,7 +183,10 @@ inline constexpr int kHeadingToContent = 8;
 inline constexpr int kShortestPage = 300;
 
 /// Whether a page that high uses its short measures, as in the smallest window.
-[[nodiscard]] constexpr bool isShort(int pageHeight) { return pageHeight < 330; }
+[[nodiscard]] inline bool isShort(int pageHeight) {
+    constexpr int kLines = 16;
+    return pageHeight < grown(330, kLines);
+}
 
 inline constexpr int kHoverInMs = 90;
 inline constexpr int kHoverOutMs = 140;

@@ -54,7 +54,10 @@ void WheelDisc::paint(QPainter& painter, const QRectF& square) {
 }
 
 const QImage& WheelDisc::drawn(int pixels) {
-    if (m_drawn.width() != pixels) m_drawn = m_picture.isNull() ? plainDisc(pixels) : scaled(m_picture, pixels);
+    if (m_drawn.width() != pixels) {
+        const QImage picture = m_picture();
+        m_drawn = picture.isNull() ? plainDisc(pixels) : scaled(picture, pixels);
+    }
     return m_drawn;
 }
 

@@ -4,6 +4,9 @@
 #include <QImage>
 #include <QPainter>
 #include <QRectF>
+#include <utility>
+
+#include "controls/PictureSource.h"
 
 namespace lumo {
 
@@ -13,8 +16,8 @@ public:
     /// The disc's radius, of the picture's half width.
     static constexpr double kRadiusShare = 0.98;
 
-    /// `picture` is a square, transparent around the disc, or null.
-    explicit WheelDisc(QImage picture) : m_picture(std::move(picture)) {}
+    /// The picture is a square, transparent around the disc, or null.
+    explicit WheelDisc(PictureSource picture) : m_picture(std::move(picture)) {}
 
     void paint(QPainter& painter, const QRectF& square);
 
@@ -22,7 +25,7 @@ public:
     [[nodiscard]] const QImage& drawn(int pixels);
 
 private:
-    QImage m_picture;
+    PictureSource m_picture;
     QImage m_drawn;
 };
 

@@ -14,7 +14,7 @@
 
 namespace lumo {
 
-/// Keeps what caps at rest look like, so that those of a size are drawn only once. Main thread.
+/// Keeps what caps at rest look like, so that those of a size are drawn only once. One thread at a time.
 class CapSprites final {
 public:
     /// `key` in pixels, measured from the corner of the sprite's first pixel.

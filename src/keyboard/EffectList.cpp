@@ -4,15 +4,18 @@
 #include <array>
 
 #include "controls/Columns.h"
+#include "controls/Theme.h"
 #include "keyboard/EffectRow.h"
 
 namespace lumo {
 namespace {
 
-constexpr int kLowestRow = 24;
-constexpr int kHighestRow = 34;
 constexpr int kRowGap = 2;
 constexpr int kColumnGap = 8;
+
+int lowestRow() { return theme::grown(24); }
+
+int highestRow() { return theme::grown(34); }
 
 }  // namespace
 
@@ -21,7 +24,7 @@ EffectList::EffectList(std::span<const EffectEntry> entries, QWidget* parent)
     m_rows.reserve(entries.size());
     for (const EffectEntry& entry : entries) addRow(entry);
     m_group->setSteps({.across = rowsInColumn(), .down = 1});
-    setMinimumHeight(rowsInColumn() * (kLowestRow + kRowGap) - kRowGap);
+    setMinimumHeight(rowsInColumn() * (lowestRow() + kRowGap) - kRowGap);
 }
 
 void EffectList::addRow(const EffectEntry& entry) {
@@ -55,7 +58,7 @@ double EffectList::widest(int column) const {
 
 void EffectList::resizeEvent(QResizeEvent*) {
     const int count = rowsInColumn();
-    const int rowHeight = std::clamp((height() + kRowGap) / count - kRowGap, kLowestRow, kHighestRow);
+    const int rowHeight = std::clamp((height() + kRowGap) / count - kRowGap, lowestRow(), highestRow());
     const auto columns = divide(width(), kColumnGap, std::array{Column{1.0, widest(0)}, Column{1.0, widest(1)}});
     int index = 0;
     for (EffectRow* const row : m_rows) {

@@ -11,7 +11,7 @@
 namespace lumo {
 
 /// By how much light changes what lies below it: on the plate among the keys, and on the desk around the case. Nothing
-/// in between, where the case is. Main thread.
+/// in between, where the case is. One thread at a time.
 class GlowField final {
 public:
     static constexpr double kCell = 2.0;  // points

@@ -89,6 +89,7 @@ GlowWeights::GlowWeights(const std::vector<KeyCap>& keys, const GlowLayer& layer
                          part);
         }
     }
+    m_weights.shrink_to_fit();
 }
 
 const GlowWeights::Table& GlowWeights::table(const QRectF& emitter, QSize size, const QSizeF& radii,

@@ -18,7 +18,7 @@ double sizeFor(const QString& text, double keyWidth) {
 }
 
 QPainterPath centred(const QString& text, double size, double x, double baseline) {
-    const Lettering letters({size, 0, QFont::Medium});
+    const Lettering letters({.designedPx = size, .weight = QFont::Medium, .isInPicture = true});
     return letters.outlines(text).translated(x - letters.widthOf(text) / 2.0, baseline);
 }
 

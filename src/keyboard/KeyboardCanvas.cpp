@@ -17,7 +17,7 @@ namespace lumo {
 namespace {
 
 QImage caseAndCaps() {
-    const QImage* const picture = AssetManager::shared().image("keyimg.png");
+    const auto picture = AssetManager::shared().image("keyimg.png");
     return picture ? *picture : QImage();
 }
 
@@ -56,13 +56,14 @@ KeyboardCanvas::KeyboardCanvas(VexaProtocol& link, UIState& state, KeyboardModel
       m_keyboard(keyboard),
       m_clock(std::move(clock)),
       m_actions(link, state, keyboard),
-      m_picture(keyboard.keys.get(), caseAndCaps()),
+      m_picture(keyboard.keys.get(), &caseAndCaps),
       m_motion(*this, [this] { composeFrame(); }),
       m_frames(*this, [this] { composeFrame(); }),
       m_refresh(main, [this] { refresh(); }),
       m_linkChanges(link.observe([this] { m_refresh.request(); })),
       m_stateChanges(state.observe([this] { m_refresh.request(); })),
       m_keyboardChanges(keyboard.observe([this] { m_refresh.request(); })) {
+    m_picture.drawAhead(devicePixelRatioF());
     setFixedSize(kPictureSize.toSize());
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);

@@ -15,30 +15,30 @@ constexpr QRect kWholePicture{0, 0, static_cast<int>(kPictureSize.width()), stat
 
 }  // namespace
 
-KeyboardPicture::KeyboardPicture(std::vector<KeyCap> keys, QImage picture)
-    : m_keys(std::move(keys)),
-      m_picture(std::move(picture)),
-      m_field(m_keys),
-      m_shades(m_keys.size()),
-      m_touches(m_keys.size()) {
+KeyboardPicture::KeyboardPicture(std::vector<KeyCap> keys, PictureSource picture)
+    : m_keys(std::move(keys)), m_picture(std::move(picture)), m_shades(m_keys.size()), m_touches(m_keys.size()) {
     m_touched.reserve(m_keys.size());
 }
 
 KeyboardPicture::~KeyboardPicture() = default;
 
+void KeyboardPicture::drawAhead(double scale) {
+    // Where no thread can be had, it is done when it is asked for.
+    m_ahead = std::async([keys = m_keys, grid = DeviceGrid{scale, {}}] { return Ahead(keys, grid); });
+}
+
 QRect KeyboardPicture::compose(std::span<const KeyLook> looks) {
     assert(looks.size() == m_keys.size());
     const bool isLightChanged = takeLights(looks);
     const QRect touched = takeTouches(looks);
-    if (isLightChanged) m_field.update(m_shades);
-    if (std::exchange(m_isNew, false)) return kWholePicture;
-    if (isLightChanged) {
-        if (m_layers) m_layers->composeAll(m_shades, m_field);
-        return kWholePicture;
+    const bool isNew = std::exchange(m_isNew, false);
+    if (m_layers && isLightChanged) {
+        m_field->update(m_shades);
+        m_layers->composeAll(m_shades, *m_field);
+    } else if (m_layers) {
+        for (const std::size_t key : m_touched) m_layers->composeKey(key, m_shades, *m_field);
     }
-    if (m_layers) {
-        for (const std::size_t key : m_touched) m_layers->composeKey(key, m_shades, m_field);
-    }
+    if (isNew || isLightChanged) return kWholePicture;
     return touched;
 }
 
@@ -67,11 +67,22 @@ QRect KeyboardPicture::takeTouches(std::span<const KeyLook> looks) {
 }
 
 void KeyboardPicture::makeLayers(const DeviceGrid& grid) {
-    m_layers = std::make_unique<PictureLayers>(grid, m_keys, m_picture);
+    m_layers = std::make_unique<PictureLayers>(drawKeys(grid), m_keys, m_picture());
     for (std::size_t key = 0; key < m_keys.size(); ++key) {
         if (m_touches[key] != KeyTouch{}) m_layers->setTouch(key, m_touches[key]);
     }
-    m_layers->composeAll(m_shades, m_field);
+    m_field->update(m_shades);
+    m_layers->composeAll(m_shades, *m_field);
+}
+
+DrawnKeys KeyboardPicture::drawKeys(const DeviceGrid& grid) {
+    if (m_ahead.valid()) {
+        Ahead ahead = m_ahead.get();
+        m_field = std::move(ahead.field);
+        if (ahead.keys.grid == grid) return std::move(ahead.keys);
+    }
+    if (!m_field) m_field.emplace(m_keys);
+    return {m_keys, grid};
 }
 
 void KeyboardPicture::paint(QPainter& painter, const QPointF& origin, const QRect& dirty) {

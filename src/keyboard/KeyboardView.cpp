@@ -1,9 +1,11 @@
 #include "keyboard/KeyboardView.h"
 
-#include "controls/Columns.h"
+#include <algorithm>
+
 #include "controls/FocusGroup.h"
 #include "controls/InfoBox.h"
 #include "controls/Section.h"
+#include "controls/Theme.h"
 #include "keyboard/KeyboardModel.h"
 #include "keyboard/LayerPill.h"
 #include "keyboard/PresetPill.h"
@@ -12,22 +14,22 @@
 namespace lumo {
 namespace {
 
+constexpr int kPictureHeight = 248;
+constexpr int kCaseWidth = 641;
 constexpr int kPanelX = 662;
-constexpr int kLayerY = 13;
-constexpr int kLayerHeight = 30;
-constexpr int kPresetY = 77;
-constexpr int kPresetHeight = 28;
-constexpr int kPresetsAcross = 3;  // in the first of two rows
-constexpr int kControlTop = 20;    // from a heading's top
+constexpr int kPanelTop = 13;  // level with the case, as is the foot
+constexpr int kPanelFoot = 12;
+constexpr int kHeadingGap = 7;
+constexpr int kLayersToPresets = 14;
+constexpr int kPresetsToInfo = 12;
 constexpr int kGap = 4;
 constexpr int kRowGap = 6;
-constexpr int kInfoY = 171;
-constexpr int kInfoHeight = 65;
+constexpr int kPresetsAcross = 3;  // in the first of two rows
+constexpr double kFirstLayerShare = 1.4;
 
-std::vector<Extent> equalColumns(int width, std::size_t count) {
-    const std::vector<Column> columns(count);
-    return divide(width, kGap, columns);
-}
+int layersTop() { return theme::kLayerLabelStyle.linePx() + kHeadingGap; }
+
+int presetsTop() { return theme::kPresetLabelStyle.linePx() + kHeadingGap; }
 
 }  // namespace
 
@@ -39,8 +41,10 @@ KeyboardView::KeyboardView(VexaProtocol& link, UIState& state, KeyboardModel& ke
       m_canvas(new KeyboardCanvas(link, state, keyboard, main, std::move(clock), this)),
       m_layerSection(new Section("LAYER:", theme::kLayerLabelStyle, this)),
       m_layerGroup(new FocusGroup({}, m_layerSection)),
+      m_layerRows({theme::grown(30), kGap, kRowGap, {kKeyLayers.size()}}),
       m_presetSection(new Section("Select:", theme::kPresetLabelStyle, this)),
       m_presetGroup(new FocusGroup({.across = 1, .down = kPresetsAcross}, m_presetSection)),
+      m_presetRows({theme::grown(28), kGap, kRowGap, {kPresetsAcross, kSelectionPresets.size() - kPresetsAcross}}),
       m_info(new InfoBox(this)),
       m_refresh(main, [this] { refresh(); }),
       m_keyboardChanges(keyboard.observe([this] { m_refresh.request(); })) {
@@ -54,6 +58,7 @@ void KeyboardView::addLayers() {
         auto* const pill = new LayerPill(layer, m_layerSection);
         connect(pill, &QAbstractButton::clicked, this, [this, pill] { m_actions.chooseLayer(pill->number()); });
         m_layerGroup->add(*pill);
+        m_layerRows.add(*pill, m_layers.empty() ? kFirstLayerShare : 1.0);
         m_layers.push_back(pill);
     }
 }
@@ -63,7 +68,7 @@ void KeyboardView::addPresets() {
         auto* const pill = new PresetPill(name, m_presetSection);
         connect(pill, &QAbstractButton::clicked, this, [this, name] { m_actions.choosePreset(name); });
         m_presetGroup->add(*pill);
-        m_presets.push_back(pill);
+        m_presetRows.add(*pill);
     }
 }
 
@@ -73,33 +78,36 @@ void KeyboardView::refresh() {
     m_info->setText(selectionText(m_keyboard.keys.get(), m_keyboard.selectedKeyIds.get()));
 }
 
+/// All beside the keyboard but the information.
+int KeyboardView::panelHeight(int width) const {
+    const int room = width - kPanelX;
+    return layersTop() + m_layerRows.heightWithin(room) + kLayersToPresets + presetsTop() +
+           m_presetRows.heightWithin(room);
+}
+
+/// The information stands below the keyboard where large letters would make the panel much higher than it.
+bool KeyboardView::isInfoBelow(int width) const {
+    const int beside = kPanelTop + panelHeight(width) + kPresetsToInfo + InfoBox::boxHeight();
+    return beside > kPictureHeight + InfoBox::lowBoxHeight();
+}
+
+int KeyboardView::heightWithin(int width) const {
+    const int panel = kPanelTop + panelHeight(width);
+    if (isInfoBelow(width)) return std::max(kPictureHeight + InfoBox::lowBoxHeight(), panel) + kPanelFoot;
+    return std::max(kPictureHeight, panel + kPresetsToInfo + InfoBox::boxHeight() + kPanelFoot);
+}
+
 void KeyboardView::resizeEvent(QResizeEvent*) {
-    const int panelWidth = width() - kPanelX;
+    const int room = width() - kPanelX;
     m_canvas->move(0, 0);
-    placeLayers(panelWidth);
-    placePresets(panelWidth);
-    m_info->setGeometry(kPanelX, kInfoY, panelWidth, kInfoHeight);
-}
-
-void KeyboardView::placeLayers(int panelWidth) {
-    m_layerSection->setGeometry(kPanelX, kLayerY, panelWidth, kControlTop + kLayerHeight);
-    constexpr std::array<Column, kKeyLayers.size()> kColumns{Column{1.4}, Column{}, Column{}, Column{}};
-    const auto columns = divide(panelWidth, kGap, kColumns);
-    for (std::size_t i = 0; i < m_layers.size(); ++i) {
-        m_layers[i]->setGeometry(columns[i].begin, kControlTop, columns[i].length, kLayerHeight);
-    }
-}
-
-void KeyboardView::placePresets(int panelWidth) {
-    m_presetSection->setGeometry(kPanelX, kPresetY, panelWidth, kControlTop + 2 * kPresetHeight + kRowGap);
-    const auto upper = equalColumns(panelWidth, kPresetsAcross);
-    const auto lower = equalColumns(panelWidth, m_presets.size() - kPresetsAcross);
-    for (std::size_t i = 0; i < m_presets.size(); ++i) {
-        const bool isUpper = i < kPresetsAcross;
-        const Extent& column = isUpper ? upper[i] : lower[i - kPresetsAcross];
-        const int y = kControlTop + (isUpper ? 0 : kPresetHeight + kRowGap);
-        m_presets[i]->setGeometry(column.begin, y, column.length, kPresetHeight);
-    }
+    m_layerSection->setGeometry(kPanelX, kPanelTop, room, layersTop() + m_layerRows.heightWithin(room));
+    m_layerRows.place(room, layersTop());
+    const int presetsY = m_layerSection->geometry().bottom() + 1 + kLayersToPresets;
+    m_presetSection->setGeometry(kPanelX, presetsY, room, presetsTop() + m_presetRows.heightWithin(room));
+    m_presetRows.place(room, presetsTop());
+    m_presetGroup->setSteps({.across = 1, .down = static_cast<int>(m_presetRows.acrossWithin(room))});
+    if (isInfoBelow(width())) return m_info->setGeometry(kShadow, kPictureHeight, kCaseWidth, InfoBox::lowBoxHeight());
+    m_info->setGeometry(kPanelX, m_presetSection->geometry().bottom() + 1 + kPresetsToInfo, room, InfoBox::boxHeight());
 }
 
 }  // namespace lumo

@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <vector>
 
+#include "controls/ButtonRows.h"
 #include "keyboard/KeyboardCanvas.h"
 
 namespace lumo {
@@ -11,7 +12,6 @@ namespace lumo {
 class FocusGroup;
 class InfoBox;
 class LayerPill;
-class PresetPill;
 class Section;
 
 /// Main thread. Owns no state: the three objects, which outlive it, hold all that it shows.
@@ -19,21 +19,23 @@ class KeyboardView final : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int kHeight = 248;
     /// How far the picture's shadow reaches out to the left of the case.
     static constexpr int kShadow = 5;
 
     KeyboardView(VexaProtocol& link, UIState& state, KeyboardModel& keyboard, MainQueue main,
                  KeyboardCanvas::Clock clock, QWidget* parent);
 
+    /// The picture's, or what the texts beside it need.
+    [[nodiscard]] int heightWithin(int width) const;
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    [[nodiscard]] int panelHeight(int width) const;
+    [[nodiscard]] bool isInfoBelow(int width) const;
     void addLayers();
     void addPresets();
-    void placeLayers(int width);
-    void placePresets(int width);
     void refresh();
 
     KeyboardModel& m_keyboard;
@@ -42,9 +44,10 @@ private:
     Section* m_layerSection;
     FocusGroup* m_layerGroup;
     std::vector<LayerPill*> m_layers;
+    ButtonRows m_layerRows;
     Section* m_presetSection;
     FocusGroup* m_presetGroup;
-    std::vector<PresetPill*> m_presets;
+    ButtonRows m_presetRows;
     InfoBox* m_info;
     CoalescedRefresh m_refresh;
     Subscription m_keyboardChanges;

@@ -13,15 +13,22 @@
 namespace lumo {
 namespace {
 
-constexpr int kPitch = 54;  // from one section to the next
-constexpr int kWheelTop = 142;
+constexpr int kSectionGap = 10;
+constexpr int kHeadingToWheel = 6;
 constexpr int kWheelFoot = 14;
+constexpr int kLeastWheel = 144;
 constexpr int kUsualWheel = 196;
 constexpr int kLargeWheel = 244;
 constexpr int kWideColumn = 260;
 
+int pitch() { return SliderSection::sectionHeight() + kSectionGap; }
+
+int spectrumTop() { return theme::kCardPadding + 2 * pitch(); }
+
+int wheelTop() { return spectrumTop() + Section::headingHeight() + kHeadingToWheel; }
+
 QImage wheelPicture() {
-    const QImage* const picture = AssetManager::shared().image("colorwheel.png");
+    const auto picture = AssetManager::shared().image("colorwheel.png");
     return picture ? *picture : QImage();
 }
 
@@ -32,7 +39,7 @@ LevelsCard::LevelsCard(MainQueue main, QWidget* parent)
       m_brightness(makeBrightnessSection(main, this)),
       m_speed(makeSpeedSection(main, this)),
       m_spectrum(new Section("COLOR SPECTRUM", this)),
-      m_wheel(new ColorWheel(wheelPicture(), main, m_spectrum)) {
+      m_wheel(new ColorWheel(&wheelPicture, main, m_spectrum)) {
     m_wheel->setAccessibleName("COLOR SPECTRUM");
     connect(m_brightness, &SliderSection::valueChanged, this, &LevelsCard::brightnessChanged);
     connect(m_brightness, &SliderSection::edited, this, &LevelsCard::levelEdited);
@@ -40,6 +47,8 @@ LevelsCard::LevelsCard(MainQueue main, QWidget* parent)
     connect(m_speed, &SliderSection::edited, this, &LevelsCard::levelEdited);
     connect(m_wheel, &ColorWheel::picked, this, &LevelsCard::colorPicked);
 }
+
+int LevelsCard::leastHeight() { return wheelTop() + kLeastWheel + kWheelFoot; }
 
 void LevelsCard::setBrightness(double level) { m_brightness->setValue(level); }
 
@@ -56,16 +65,15 @@ void LevelsCard::resizeEvent(QResizeEvent*) {
     constexpr int kPadding = theme::kCardPadding;
     const int inner = width() - 2 * kPadding;
     const QRect level(kPadding - SliderSection::kRoom, kPadding, inner + 2 * SliderSection::kRoom,
-                      SliderSection::kHeight);
+                      SliderSection::sectionHeight());
     m_brightness->setGeometry(level);
-    m_speed->setGeometry(level.translated(0, kPitch));
-    const int spectrumTop = kPadding + 2 * kPitch;
-    m_spectrum->setGeometry(kPadding, spectrumTop, inner, height() - spectrumTop);
+    m_speed->setGeometry(level.translated(0, pitch()));
+    m_spectrum->setGeometry(kPadding, spectrumTop(), inner, height() - spectrumTop());
 
-    const int room = height() - kWheelTop - kWheelFoot;
+    const int room = height() - wheelTop() - kWheelFoot;
     const int diameter = std::min({width() > kWideColumn ? kLargeWheel : kUsualWheel, room, inner});
     m_wheel->placePicture(
-        {(inner - diameter) / 2, kWheelTop - spectrumTop + (room - diameter) / 2, diameter, diameter});
+        {(inner - diameter) / 2, wheelTop() - spectrumTop() + (room - diameter) / 2, diameter, diameter});
 }
 
 }  // namespace lumo

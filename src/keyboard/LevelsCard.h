@@ -17,6 +17,7 @@ class LevelsCard final : public QWidget {
     Q_OBJECT
 
 public:
+    static int leastHeight();
     LevelsCard(MainQueue main, QWidget* parent);
 
     void setBrightness(double level);

@@ -2,7 +2,7 @@
 
 #include "app/UIState.h"
 #include "controls/Card.h"
-#include "controls/Columns.h"
+#include "controls/CardRows.h"
 #include "controls/Section.h"
 #include "controls/ShownColor.h"
 #include "controls/Theme.h"
@@ -14,8 +14,6 @@
 
 namespace lumo {
 namespace {
-
-constexpr std::array<Column, 3> kColumns{Column{1.7, 396.0}, Column{1.0, 200.0}, Column{1.0, 236.0}};
 
 Card* makeEffectCard(EffectList* effects, QWidget* parent) {
     auto* const section = new Section("LIGHTING EFFECT", nullptr);
@@ -40,7 +38,6 @@ LightingControlView::LightingControlView(VexaProtocol& link, UIState& state, Key
       m_linkChanges(link.observe([this] { m_refresh.request(); })),
       m_stateChanges(state.observe([this] { m_refresh.request(); })),
       m_keyboardChanges(keyboard.observe([this] { m_refresh.request(); })) {
-    setMinimumHeight(theme::kShortestPage);
     connectControls();
     refresh();
 }
@@ -71,10 +68,15 @@ void LightingControlView::refresh() {
 }
 
 void LightingControlView::resizeEvent(QResizeEvent*) {
-    const auto columns = divide(width(), theme::kCardGap, kColumns);
-    m_effectCard->setGeometry(columns[0].begin, 0, columns[0].length, height());
-    m_levels->setGeometry(columns[1].begin, 0, columns[1].length, height());
-    m_palette->setGeometry(columns[2].begin, 0, columns[2].length, height());
+    const auto column = [](double share, int least, QWidget& card, int leastHeight) {
+        return CardColumn{{share, static_cast<double>(theme::widened(least))},
+                          [leastHeight](int) { return leastHeight; },
+                          [&card](const QRect& place) { card.setGeometry(place); }};
+    };
+    placeCards(*this, theme::kShortestPage,
+               std::array{column(1.7, 396, *m_effectCard, m_effectCard->leastHeight()),
+                          column(1.0, 200, *m_levels, LevelsCard::leastHeight()),
+                          column(1.0, 236, *m_palette, PaletteCard::leastHeight())});
 }
 
 }  // namespace lumo

@@ -20,15 +20,22 @@ namespace {
 constexpr int kPadding = theme::kCardPadding;
 constexpr int kAcross = 4;
 constexpr int kGap = 8;
-constexpr int kSwatchTop = 26;  // from the heading's top
+constexpr int kHeadingToSwatches = 10;
 constexpr int kSwatchHeight = 48;
 constexpr int kShortSwatchHeight = 30;
 constexpr int kTipLines = 3;
 constexpr int kTipGap = 14;  // above and below
 constexpr int kShortTipGap = 10;
-constexpr int kPrimaryHeight = 32;
-constexpr int kButtonHeight = 28;
+constexpr int kLineWidth = 1;
 constexpr std::array<Column, 2> kToolColumns{Column{1.0}, Column{1.72}};
+
+int swatchTop() { return theme::kSectionStyle.linePx() + kHeadingToSwatches; }
+
+int primaryHeight() { return theme::grown(32); }
+
+int buttonHeight() { return theme::grown(28); }
+
+int tipHeight() { return kTipLines * theme::kDescriptionStyle.linePx(); }
 
 }  // namespace
 
@@ -48,6 +55,12 @@ PaletteCard::PaletteCard(QWidget* parent)
     connect(m_paint, &QAbstractButton::clicked, this, &PaletteCard::paintSelected);
     connect(m_fill, &QAbstractButton::clicked, this, &PaletteCard::fillAll);
     connect(m_rainbow, &QAbstractButton::clicked, this, &PaletteCard::applyRainbow);
+}
+
+int PaletteCard::leastHeight() {
+    const int swatches = swatchTop() + 2 * kShortSwatchHeight + kGap;
+    const int tools = kLineWidth + kShortTipGap + tipHeight() + kShortTipGap + primaryHeight() + kGap + buttonHeight();
+    return kPadding + swatches + kGap + tools + kPadding;
 }
 
 std::vector<ColorSwatch*> PaletteCard::makeSwatches() {
@@ -79,7 +92,6 @@ void PaletteCard::paintEvent(QPaintEvent*) {
 }
 
 void PaletteCard::resizeEvent(QResizeEvent*) {
-    m_palette->setGeometry(0, kPadding, width(), height() / 2);
     placeSwatches();
     placeTools();
 }
@@ -90,23 +102,23 @@ void PaletteCard::placeSwatches() {
     const auto extents = divide(width() - 2 * kPadding, kGap, columns);
     for (std::size_t i = 0; i < m_swatches.size(); ++i) {
         const auto& [x, swatchWidth] = extents[i % kAcross];
-        const int y = kSwatchTop + static_cast<int>(i / kAcross) * (swatchHeight + kGap);
+        const int y = swatchTop() + static_cast<int>(i / kAcross) * (swatchHeight + kGap);
         m_swatches[i]->setColorRect({kPadding + x, y, swatchWidth, swatchHeight});
     }
+    m_palette->setGeometry(0, kPadding, width(), m_swatches.back()->geometry().bottom() + 1);
 }
 
 void PaletteCard::placeTools() {
     const int inner = width() - 2 * kPadding;
     const int tipGap = theme::isShort(height()) ? kShortTipGap : kTipGap;
     const auto columns = divide(inner, kGap, kToolColumns);
-    int y = height() - kPadding - kButtonHeight;
-    m_fill->setGeometry(kPadding + columns[0].begin, y, columns[0].length, kButtonHeight);
-    m_rainbow->setGeometry(kPadding + columns[1].begin, y, columns[1].length, kButtonHeight);
-    y -= kGap + kPrimaryHeight;
-    m_paint->setGeometry(kPadding, y, inner, kPrimaryHeight);
-    const int tipHeight = kTipLines * theme::kDescriptionStyle.linePx;
-    y -= tipGap + tipHeight;
-    m_tip->setGeometry(kPadding, y, inner, tipHeight);
+    int y = height() - kPadding - buttonHeight();
+    m_fill->setGeometry(kPadding + columns[0].begin, y, columns[0].length, buttonHeight());
+    m_rainbow->setGeometry(kPadding + columns[1].begin, y, columns[1].length, buttonHeight());
+    y -= kGap + primaryHeight();
+    m_paint->setGeometry(kPadding, y, inner, primaryHeight());
+    y -= tipGap + tipHeight();
+    m_tip->setGeometry(kPadding, y, inner, tipHeight());
     m_lineY = y - tipGap - 1;
 }
 

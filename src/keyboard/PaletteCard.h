@@ -20,6 +20,7 @@ class PaletteCard final : public QWidget {
     Q_OBJECT
 
 public:
+    static int leastHeight();
     explicit PaletteCard(QWidget* parent);
 
     /// Marks the swatch of that colour, if there is one.

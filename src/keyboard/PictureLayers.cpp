@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "controls/Theme.h"
 #include "keyboard/KeyboardCase.h"
@@ -57,22 +58,19 @@ bool isAtRest(const KeyTouch& touch) { return touch.hover <= 0.0 && touch.press 
 
 }  // namespace
 
-PictureLayers::PictureLayers(const DeviceGrid& grid, const std::vector<KeyCap>& keys, const QImage& picture)
+PictureLayers::PictureLayers(DrawnKeys drawn, const std::vector<KeyCap>& keys, const QImage& picture)
     : m_keys(keys),
-      m_grid(grid),
+      m_drawn(std::move(drawn)),
       m_touchedCaps(keys.size()),
       m_rings(keys.size()),
       m_isMarked(keys.size()),
-      m_glow([&] {
-          for (const KeyCap& key : keys) m_caps.emplace_back(key, KeyTouch{}, m_grid, m_sprites);
-          return makeGlow(picture);
-      }()),
+      m_glow(makeGlow(picture)),
       m_frame(m_glow.ground()) {}
 
 std::vector<CapCover> PictureLayers::covers() const {
-    const BlockArea all = m_grid.blocks();
+    const BlockArea all = m_drawn.grid.blocks();
     std::vector<CapCover> covers(static_cast<std::size_t>(all.width() * all.height()), CapCover::none);
-    for (const DrawnCap& cap : m_caps) {
+    for (const DrawnCap& cap : m_drawn.caps) {
         const QRect rect = cap.rect().intersected(all.pixels());
         for (int y = rect.top(); y <= rect.bottom(); ++y) {
             const auto opaque = cap.opaque(y - cap.rect().y());
@@ -88,35 +86,35 @@ std::vector<CapCover> PictureLayers::covers() const {
 }
 
 GlowPass PictureLayers::makeGlow(const QImage& picture) const {
-    return {m_grid, onWindow(drawCase(m_grid, picture)), drawLightMask(m_grid), covers()};
+    return {m_drawn.grid, onWindow(drawCase(m_drawn.grid, picture)), drawLightMask(m_drawn.grid), covers()};
 }
 
 void PictureLayers::setTouch(std::size_t key, const KeyTouch& touch) {
     m_touchedCaps[key].reset();
-    if (!isAtRest(touch)) m_touchedCaps[key].emplace(m_keys[key], touch, m_grid, m_sprites);
+    if (!isAtRest(touch)) m_touchedCaps[key].emplace(m_keys[key], touch, m_drawn.grid, m_drawn.sprites);
     const RingLook ring{touch.isSelected, touch.isFocused, touch.hover};
     m_rings[key].reset();
-    if (ring.isVisible()) m_rings[key].emplace(rectOf(m_keys[key]), ring, m_grid);
+    if (ring.isVisible()) m_rings[key].emplace(rectOf(m_keys[key]), ring, m_drawn.grid);
     m_isMarked[key] = touch.isSelected || touch.isFocused;
 }
 
 void PictureLayers::composeAll(std::span<const KeyShade> shades, GlowField& field) {
-    const BlockArea all = m_grid.blocks();
+    const BlockArea all = m_drawn.grid.blocks();
     for (int top = 0; top < all.bottom; top += kBandRows) {
         compose({0, top, all.right, std::min(top + kBandRows, all.bottom)}, shades, field);
     }
 }
 
 void PictureLayers::composeKey(std::size_t key, std::span<const KeyShade> shades, GlowField& field) {
-    compose(m_grid.blocksAround(ringBounds(rectOf(m_keys[key]))), shades, field);
+    compose(m_drawn.grid.blocksAround(ringBounds(rectOf(m_keys[key]))), shades, field);
 }
 
 void PictureLayers::compose(const BlockArea& area, std::span<const KeyShade> shades, GlowField& field) {
     pixels::clearWideRegisters();
     const FrameView frame(m_frame);
     m_glow.paint(frame, area, field);
-    for (std::size_t key = 0; key < m_caps.size(); ++key) {
-        const DrawnCap& cap = m_touchedCaps[key] ? *m_touchedCaps[key] : m_caps[key];
+    for (std::size_t key = 0; key < m_drawn.caps.size(); ++key) {
+        const DrawnCap& cap = m_touchedCaps[key] ? *m_touchedCaps[key] : m_drawn.caps[key];
         cap.paint(frame, area, shades[key]);
     }
     paintRings(area);

@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "keyboard/DrawnCap.h"
+#include "keyboard/DrawnKeys.h"
 #include "keyboard/GlowPass.h"
 #include "keyboard/KeyRing.h"
 
@@ -16,9 +16,9 @@ namespace lumo {
 class PictureLayers final {
 public:
     /// `picture` may be null; then the case is drawn.
-    PictureLayers(const DeviceGrid& grid, const std::vector<KeyCap>& keys, const QImage& picture);
+    PictureLayers(DrawnKeys drawn, const std::vector<KeyCap>& keys, const QImage& picture);
 
-    [[nodiscard]] const DeviceGrid& grid() const { return m_grid; }
+    [[nodiscard]] const DeviceGrid& grid() const { return m_drawn.grid; }
     [[nodiscard]] const QImage& frame() const { return m_frame; }
 
     /// Draws what the pointer, the selection or the focus changed on a key. Its place is not composed yet.
@@ -35,9 +35,7 @@ private:
     void paintRings(const BlockArea& area);
 
     const std::vector<KeyCap>& m_keys;
-    DeviceGrid m_grid;
-    CapSprites m_sprites;
-    std::vector<DrawnCap> m_caps;
+    DrawnKeys m_drawn;
     std::vector<std::optional<DrawnCap>> m_touchedCaps;  // in the place of those at rest
     std::vector<std::optional<KeyRing>> m_rings;
     std::vector<bool> m_isMarked;  // selected or focused: drawn after all others

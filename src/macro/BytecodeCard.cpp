@@ -8,20 +8,27 @@ namespace lumo {
 namespace {
 
 constexpr int kSide = theme::kCardPadding;
-constexpr int kButtonHeight = 24;
 constexpr int kButtonPadding = 10;
-constexpr int kHeadingHeight = theme::kSectionStyle.linePx;
 constexpr int kHeadingGap = 8;
 
 struct Measures {
     int padding;  // above and below
     int gap;      // between the heading's row and the box
-    int lineHeight;
+    const theme::TextStyle& style;
 };
-constexpr Measures kUsual{12, 10, theme::kHexStyle.linePx};
-constexpr Measures kShort{10, 6, theme::kShortHexStyle.linePx};
+constexpr int kLines = 8;
+constexpr int kLeastBoxPadding = 7;
+constexpr Measures kUsual{12, 10, theme::kHexStyle};
+constexpr Measures kShort{10, 6, theme::kShortHexStyle};
+
+int buttonHeight() { return theme::grown(24); }
 
 }  // namespace
+
+int BytecodeCard::leastHeight() {
+    const int box = kLines * kShort.style.linePx() + 2 * kLeastBoxPadding;
+    return kShort.padding + buttonHeight() + kShort.gap + box + kShort.padding;
+}
 
 BytecodeCard::BytecodeCard(QWidget* parent)
     : HeadedCard(makeHeading("FIRMWARE BYTECODE (128B)"), parent),
@@ -38,13 +45,14 @@ void BytecodeCard::setShort(bool isShort) { m_isShort = isShort; }
 
 void BytecodeCard::resizeEvent(QResizeEvent*) {
     const Measures& measures = m_isShort ? kShort : kUsual;
+    const int headingHeight = theme::kSectionStyle.linePx();
     const int buttonWidth = m_recompile->widthWith(kButtonPadding);
     const int buttonX = width() - kSide - buttonWidth;
-    m_recompile->setGeometry(buttonX, measures.padding, buttonWidth, kButtonHeight);
-    heading().setGeometry(kSide, measures.padding + (kButtonHeight - kHeadingHeight) / 2, buttonX - kHeadingGap - kSide,
-                          kHeadingHeight);
-    const int boxTop = measures.padding + kButtonHeight + measures.gap;
-    m_view->setLineHeight(measures.lineHeight);
+    m_recompile->setGeometry(buttonX, measures.padding, buttonWidth, buttonHeight());
+    heading().setGeometry(kSide, measures.padding + (buttonHeight() - headingHeight) / 2, buttonX - kHeadingGap - kSide,
+                          headingHeight);
+    const int boxTop = measures.padding + buttonHeight() + measures.gap;
+    m_view->setLineHeight(measures.style.linePx());
     m_view->setGeometry(kSide, boxTop, width() - 2 * kSide, height() - measures.padding - boxTop);
 }
 

@@ -20,6 +20,7 @@ public:
     void setBytecode(std::string_view text);
     /// Whether its page is short.
     void setShort(bool isShort);
+    [[nodiscard]] static int leastHeight();
 
 signals:
     void recompiled();

@@ -30,7 +30,7 @@ BytecodeView::BytecodeView(QWidget* parent)
     : QWidget(parent),
       m_lettering(theme::kHexStyle),
       m_letterWidth(m_lettering.widthOf("0")),
-      m_lineHeight(theme::kHexStyle.linePx) {
+      m_lineHeight(theme::kHexStyle.linePx()) {
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::IBeamCursor);
 }

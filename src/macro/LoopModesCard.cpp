@@ -8,15 +8,21 @@ namespace lumo {
 namespace {
 
 constexpr int kPadding = theme::kCardPadding;
-constexpr int kHeadingHeight = theme::kSectionStyle.linePx;
 
 struct Measures {
-    int firstRadio;  // from the top
+    int headingToRadio;
     int radioHeight;
-    int height;
+    int foot;
 };
-constexpr Measures kUsual{34, 26, 122};
-constexpr Measures kShort{31, 24, 111};
+constexpr Measures kUsual{6, 26, 10};
+constexpr Measures kShort{3, 24, 8};
+constexpr int kRadios = 3;
+
+int firstRadio(const Measures& measures) { return kPadding + theme::kSectionStyle.linePx() + measures.headingToRadio; }
+
+int cardHeight(const Measures& measures) {
+    return firstRadio(measures) + kRadios * theme::grown(measures.radioHeight) + measures.foot;
+}
 
 QString timesTitle(std::int64_t count) { return QString("Cycle times (%1)").arg(count); }
 
@@ -43,19 +49,20 @@ void LoopModesCard::setMode(std::int64_t mode) {
     m_group->placeTabStop();
 }
 
-int LoopModesCard::heightOn(bool isShortPage) { return isShortPage ? kShort.height : kUsual.height; }
+int LoopModesCard::heightOn(bool isShortPage) { return cardHeight(isShortPage ? kShort : kUsual); }
 
 void LoopModesCard::placeRadios() {
-    const Measures& measures = height() < kUsual.height ? kShort : kUsual;
-    int y = measures.firstRadio;
+    const Measures& measures = height() < cardHeight(kUsual) ? kShort : kUsual;
+    const int radioHeight = theme::grown(measures.radioHeight);
+    int y = firstRadio(measures);
     for (LoopRadio* const radio : m_radios) {
-        radio->setGeometry(kPadding, y, radio->sizeHint().width(), measures.radioHeight);
-        y += measures.radioHeight;
+        radio->setGeometry(kPadding, y, radio->sizeHint().width(), radioHeight);
+        y += radioHeight;
     }
 }
 
 void LoopModesCard::resizeEvent(QResizeEvent*) {
-    heading().setGeometry(kPadding, kPadding, width() - 2 * kPadding, kHeadingHeight);
+    heading().setGeometry(kPadding, kPadding, width() - 2 * kPadding, theme::kSectionStyle.linePx());
     placeRadios();
 }
 

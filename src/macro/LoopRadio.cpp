@@ -37,7 +37,7 @@ LoopRadio::LoopRadio(const QString& title, std::function<void()> action, QWidget
 void LoopRadio::setTitle(const QString& title) { rename(title); }
 
 QSize LoopRadio::sizeHint() const {
-    return {static_cast<int>(std::ceil(kTitleX + m_lettering.widthOf(text()))), theme::kRadioStyle.linePx};
+    return {static_cast<int>(std::ceil(kTitleX + m_lettering.widthOf(text()))), theme::kRadioStyle.linePx()};
 }
 
 QRectF LoopRadio::dotRect() const { return {0.0, (height() - kDot) / 2.0, kDot, kDot}; }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/UIState.h"
+#include "controls/CardRows.h"
 #include "controls/PlainText.h"
 #include "controls/Theme.h"
 #include "macro/BytecodeCard.h"
@@ -18,10 +19,13 @@ constexpr int kBytecodeWidth = 352;  // what 51 letters need
 constexpr int kProfilesWidth = 188;
 constexpr int kLeastProfilesWidth = 168;
 constexpr int kNarrowPage = 868;
+constexpr int kLeastTimeline = 324;
+constexpr int kTimelineLines = 6;
 
 /// On a narrow page the profiles give way first, a third of what is missing.
 int profilesWidthOn(int pageWidth) {
-    return std::clamp(kLeastProfilesWidth + (pageWidth - kNarrowPage) / 3, kLeastProfilesWidth, kProfilesWidth);
+    return theme::widened(
+        std::clamp(kLeastProfilesWidth + (pageWidth - kNarrowPage) / 3, kLeastProfilesWidth, kProfilesWidth));
 }
 
 QStringList namesOf(const std::vector<MacroItem>& macros) {
@@ -42,7 +46,6 @@ MacroEditorView::MacroEditorView(VexaProtocol& link, UIState& state, MainQueue m
       m_bytecode(new BytecodeCard(this)),
       m_refresh(main, [this] { refresh(); }),
       m_stateChanges(state.observe([this] { m_refresh.request(); })) {
-    setMinimumHeight(theme::kShortestPage);
     connectControls();
     refresh();
 }
@@ -69,16 +72,25 @@ void MacroEditorView::refresh() {
 }
 
 void MacroEditorView::resizeEvent(QResizeEvent*) {
-    const bool isShort = theme::isShort(height());
-    const int profilesWidth = profilesWidthOn(width());
-    const int timelineX = profilesWidth + kGap;
-    const int rightX = width() - kBytecodeWidth;
+    const auto least = [](int width) { return static_cast<double>(theme::widened(width)); };
+    const auto list = [](int) { return theme::grown(theme::kShortestPage, kTimelineLines); };
+    const CardColumn profiles{{0.0, static_cast<double>(profilesWidthOn(width()))}, list, [this](const QRect& place) {
+                                  m_profiles->setGeometry(place);
+                              }};
+    const CardColumn timeline{
+        {1.0, least(kLeastTimeline)}, list, [this](const QRect& place) { m_timeline->setGeometry(place); }};
+    const CardColumn result{{0.0, least(kBytecodeWidth)},
+                            [](int) { return LoopModesCard::heightOn(true) + kGap + BytecodeCard::leastHeight(); },
+                            [this](const QRect& place) { placeResult(place); }};
+    placeCards(*this, theme::kShortestPage, std::array{profiles, timeline, result});
+}
+
+void MacroEditorView::placeResult(const QRect& place) {
+    const bool isShort = theme::isShort(place.height());
     const int loopHeight = LoopModesCard::heightOn(isShort);
-    m_profiles->setGeometry(0, 0, profilesWidth, height());
-    m_timeline->setGeometry(timelineX, 0, rightX - kGap - timelineX, height());
-    m_loop->setGeometry(rightX, 0, kBytecodeWidth, loopHeight);
+    m_loop->setGeometry(place.left(), place.top(), place.width(), loopHeight);
     m_bytecode->setShort(isShort);
-    m_bytecode->setGeometry(rightX, loopHeight + kGap, kBytecodeWidth, height() - loopHeight - kGap);
+    m_bytecode->setGeometry(place.adjusted(0, loopHeight + kGap, 0, 0));
 }
 
 }  // namespace lumo

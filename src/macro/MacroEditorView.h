@@ -25,6 +25,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void placeResult(const QRect& place);
     void connectControls();
     void refresh();
 

@@ -4,15 +4,17 @@
 
 #include "controls/FocusGroup.h"
 #include "controls/ListRow.h"
+#include "controls/Theme.h"
 
 namespace lumo {
 namespace {
 
 constexpr int kBarToEdge = 2;
-constexpr int kRowHeight = 32;
 constexpr int kRowGap = 2;
 constexpr ListRow::Looks kRowLooks{
     .nameX = 10, .padding = 10, .style = theme::kLargeRowStyle, .selectedStyle = theme::kLargeRowSelectedStyle};
+
+int rowHeight() { return theme::grown(32); }
 
 class RowsParent final : public QWidget, public AccessibleSource {
 public:
@@ -35,7 +37,7 @@ void ProfileList::setNames(const QStringList& names) {
     while (m_rows.size() > count) dropLastRow();
     for (std::size_t i = 0; i < m_rows.size(); ++i) m_rows[i]->setName(names[static_cast<qsizetype>(i)]);
     while (m_rows.size() < count) addRow(names[static_cast<qsizetype>(m_rows.size())]);
-    m_rowsParent->setMinimumHeight(std::max(0, static_cast<int>(count) * (kRowHeight + kRowGap) - kRowGap));
+    m_rowsParent->setMinimumHeight(std::max(0, static_cast<int>(count) * (rowHeight() + kRowGap) - kRowGap));
 }
 
 void ProfileList::addRow(const QString& name) {
@@ -76,8 +78,8 @@ void ProfileList::resizeEvent(QResizeEvent* event) {
 void ProfileList::placeRows() {
     int y = 0;
     for (ListRow* const row : m_rows) {
-        row->setGeometry(0, y, viewport()->width(), kRowHeight);
-        y += kRowHeight + kRowGap;
+        row->setGeometry(0, y, viewport()->width(), rowHeight());
+        y += rowHeight() + kRowGap;
     }
 }
 

@@ -9,10 +9,12 @@ namespace lumo {
 namespace {
 
 constexpr int kPadding = theme::kCardPadding;
-constexpr int kHeadingHeight = theme::kSectionStyle.linePx;
-constexpr int kListTop = kPadding + kHeadingHeight + theme::kHeadingToContent;
 constexpr int kGap = 8;
 constexpr double kPlusSize = 16.0;
+
+int headingHeight() { return theme::kSectionStyle.linePx(); }
+
+int listTop() { return kPadding + headingHeight() + theme::kHeadingToContent; }
 
 }  // namespace
 
@@ -33,12 +35,13 @@ void ProfilesCard::setMacros(const QStringList& names, std::int64_t selected) {
 
 void ProfilesCard::resizeEvent(QResizeEvent*) {
     const int inner = width() - 2 * kPadding;
-    const int footTop = height() - kPadding - IconButton::kSize;
-    heading().setGeometry(kPadding, kPadding, inner, kHeadingHeight);
-    m_list->place({kPadding, kListTop, inner, footTop - kGap - kListTop}, width());
-    m_add->setGeometry(kPadding, footTop, IconButton::kSize, IconButton::kSize);
-    const int deleteX = kPadding + IconButton::kSize + kGap;
-    m_delete->setGeometry(deleteX, footTop, width() - kPadding - deleteX, IconButton::kSize);
+    const int footHeight = theme::grown(IconButton::kSize);
+    const int footTop = height() - kPadding - footHeight;
+    heading().setGeometry(kPadding, kPadding, inner, headingHeight());
+    m_list->place({kPadding, listTop(), inner, footTop - kGap - listTop()}, width());
+    m_add->setGeometry(kPadding, footTop, footHeight, footHeight);
+    const int deleteX = kPadding + footHeight + kGap;
+    m_delete->setGeometry(deleteX, footTop, width() - kPadding - deleteX, footHeight);
 }
 
 }  // namespace lumo

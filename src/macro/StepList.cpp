@@ -18,7 +18,7 @@
 namespace lumo {
 namespace {
 
-constexpr int kPitch = StepRow::kHeight + StepRow::kGap;
+int pitch() { return StepRow::rowHeight() + StepRow::kGap; }
 
 /// Fades the light in where it comes to another place, and out where it goes.
 void light(std::optional<std::size_t>& lit, Fade& hover, std::optional<std::size_t> now) {
@@ -46,7 +46,7 @@ void StepList::setSteps(const std::vector<MacroEvent>& steps) {
     m_pressed.reset();
     m_press.to(0.0, 0);
     m_row.layOut(width(), m_steps.size());
-    setMinimumHeight(static_cast<int>(m_steps.size()) * kPitch);
+    setMinimumHeight(static_cast<int>(m_steps.size()) * pitch());
     setFocusPolicy(m_steps.empty() ? Qt::NoFocus : Qt::TabFocus);
     showAfter(before);
     tellOfSteps(*this, before);
@@ -73,7 +73,7 @@ void StepList::setCurrentStep(std::size_t index) {
 }
 
 QRect StepList::rowRect(std::size_t index) const {
-    return {0, static_cast<int>(index) * kPitch, width(), StepRow::kHeight};
+    return {0, static_cast<int>(index) * pitch(), width(), StepRow::rowHeight()};
 }
 
 QRect StepList::partRect(std::size_t index, StepPart part) const {
@@ -81,8 +81,8 @@ QRect StepList::partRect(std::size_t index, StepPart part) const {
 }
 
 std::optional<std::size_t> StepList::stepAt(QPoint place) const {
-    if (place.y() < 0 || place.y() % kPitch >= StepRow::kHeight) return std::nullopt;
-    const auto index = static_cast<std::size_t>(place.y() / kPitch);
+    if (place.y() < 0 || place.y() % pitch() >= StepRow::rowHeight()) return std::nullopt;
+    const auto index = static_cast<std::size_t>(place.y() / pitch());
     return index < m_steps.size() ? Index(index) : std::nullopt;
 }
 
@@ -117,7 +117,7 @@ void StepList::focusInEvent(QFocusEvent* event) {
 void StepList::keyPressEvent(QKeyEvent* event) {
     if (m_steps.empty() || !isPlain(*event)) return event->ignore();
     const std::size_t last = m_steps.size() - 1;
-    const auto rowsInView = static_cast<std::size_t>(std::max(1, visibleRegion().boundingRect().height() / kPitch));
+    const auto rowsInView = static_cast<std::size_t>(std::max(1, visibleRegion().boundingRect().height() / pitch()));
     const auto goTo = [this](std::size_t index) {
         m_hasKeyboardFocus = true;
         setCurrentStep(index);
@@ -194,7 +194,7 @@ StepGlow StepList::glowOf(std::size_t index) const {
 
 void StepList::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
-    const auto first = static_cast<std::size_t>(std::max(0, event->rect().top() / kPitch));
+    const auto first = static_cast<std::size_t>(std::max(0, event->rect().top() / pitch()));
     for (std::size_t i = first; i < m_steps.size() && rowRect(i).top() <= event->rect().bottom(); ++i) {
         painter.save();
         painter.translate(rowRect(i).topLeft());

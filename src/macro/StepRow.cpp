@@ -14,13 +14,13 @@ namespace {
 
 constexpr auto kUnit = "ms";
 constexpr double kPadding = 10.0;
-constexpr double kLeastNumberWidth = 24.0;
+constexpr int kLeastNumberWidth = 24;
 constexpr double kNumberGap = 8.0;
 constexpr double kIcon = 18.0;
 constexpr double kIconGap = 8.0;
-constexpr double kDirectionWidth = 76.0;
+constexpr int kDirectionWidth = 76;
 constexpr double kCodePadding = 7.0;
-constexpr double kCodeHeight = 19.0;
+constexpr int kCodeHeight = 19;
 constexpr double kCodeGap = 8.0;
 constexpr double kClock = 15.0;
 constexpr double kClockGap = 6.0;
@@ -36,10 +36,12 @@ constexpr QColor kDownSymbol{0xB9, 0xA3, 0xFF};
 constexpr PressColors kRemoveFill{theme::white(0), theme::kDangerFill, {0xFF, 0x6B, 0x61, 15}};
 constexpr PressColors kRemoveSymbol{theme::kTextMinor, theme::kTextDanger, {0xE0, 0x7F, 0x78}};
 
-QRectF centred(double x, double width, double height) { return {x, (StepRow::kHeight - height) / 2.0, width, height}; }
+QRectF centred(double x, double width, double height) {
+    return {x, (StepRow::rowHeight() - height) / 2.0, width, height};
+}
 
 QImage picture(std::string_view name) {
-    const QImage* const found = AssetManager::shared().image(name);
+    const auto found = AssetManager::shared().image(name);
     return found ? *found : QImage();
 }
 
@@ -63,6 +65,8 @@ QString stepText(StepPart part, std::size_t index, const MacroEvent& step) {
     return {};
 }
 
+int StepRow::rowHeight() { return theme::grown(34); }
+
 StepRow::StepRow()
     : m_number(theme::kStepNumberStyle),
       m_unit(theme::kUnitStyle),
@@ -72,12 +76,13 @@ StepRow::StepRow()
 
 void StepRow::layOut(int width, std::size_t count) {
     m_width = width;
-    m_numberWidth = std::max(kLeastNumberWidth, m_number.widthOf(QString::number(count)) + kNumberGap);
+    m_numberWidth =
+        std::max<double>(theme::widened(kLeastNumberWidth), m_number.widthOf(QString::number(count)) + kNumberGap);
 }
 
 double StepRow::iconX() const { return kPadding + m_numberWidth; }
 
-double StepRow::codeX() const { return iconX() + kIcon + kIconGap + kDirectionWidth; }
+double StepRow::codeX() const { return iconX() + kIcon + kIconGap + theme::widened(kDirectionWidth); }
 
 double StepRow::delayRoom() const {
     const double codeEnd = codeX() + 2.0 * kCodePadding + m_code.widthOf("0xFF");
@@ -94,21 +99,23 @@ bool StepRow::isDelayElided(const MacroEvent& step) const {
 }
 
 QRectF StepRow::place(StepPart part, const MacroEvent& step) const {
+    const double high = rowHeight();
     const double removeX = m_width - kRemovePadding - kRemove;
     const double unitX = removeX - kRemoveGap - m_unit.widthOf(kUnit);
     switch (part) {
         case StepPart::number:
-            return {kPadding, 0.0, m_numberWidth, kHeight};
+            return {kPadding, 0.0, m_numberWidth, high};
         case StepPart::direction:
-            return {iconX() + kIcon + kIconGap, 0.0, kDirectionWidth, kHeight};
+            return {iconX() + kIcon + kIconGap, 0.0, static_cast<double>(theme::widened(kDirectionWidth)), high};
         case StepPart::code:
-            return centred(codeX(), 2.0 * kCodePadding + m_code.widthOf(stepText(part, 0, step)), kCodeHeight);
+            return centred(codeX(), 2.0 * kCodePadding + m_code.widthOf(stepText(part, 0, step)),
+                           theme::grown(kCodeHeight));
         case StepPart::delay: {
             const double width = m_delay.widthOf(shownDelay(step));
-            return {unitX - kUnitGap - width, 0.0, width, kHeight};
+            return {unitX - kUnitGap - width, 0.0, width, high};
         }
         case StepPart::unit:
-            return {unitX, 0.0, m_unit.widthOf(kUnit), kHeight};
+            return {unitX, 0.0, m_unit.widthOf(kUnit), high};
         case StepPart::remove:
             return centred(removeX, kRemove, kRemove);
     }
@@ -116,7 +123,7 @@ QRectF StepRow::place(StepPart part, const MacroEvent& step) const {
 }
 
 void StepRow::paint(QPainter& painter, std::size_t index, const MacroEvent& step, const StepGlow& glow) const {
-    paintPanel(painter, QRectF(0.0, 0.0, m_width, kHeight), theme::kRowRadius, faded(theme::kStepHover, glow.row),
+    paintPanel(painter, QRectF(0.0, 0.0, m_width, rowHeight()), theme::kRowRadius, faded(theme::kStepHover, glow.row),
                Qt::transparent);
     painter.setPen(theme::kTextMinor);
     m_number.paint(painter, place(StepPart::number, step), stepText(StepPart::number, index, step));

@@ -28,7 +28,7 @@ struct StepGlow {
 /// Main thread. Places count from the row's upper left corner.
 class StepRow final {
 public:
-    static constexpr int kHeight = 34;
+    static int rowHeight();
     static constexpr int kGap = 1;
     static constexpr double kRemoveRadius = 6.0;
 

@@ -13,19 +13,26 @@ namespace lumo {
 namespace {
 
 constexpr int kPadding = theme::kCardPadding;
-constexpr int kHeadingHeight = theme::kSectionStyle.linePx;
-constexpr int kButtonsTop = kPadding + kHeadingHeight + theme::kHeadingToContent;
-constexpr int kButtonHeight = 28;
 constexpr int kButtonPadding = 12;
 constexpr int kButtonGap = 8;
-constexpr int kLineTop = kButtonsTop + kButtonHeight + 10;
-constexpr int kRowsTop = kLineTop + 1 + 6;
+constexpr int kButtonsToLine = 10;
+constexpr int kLineToRows = 6;
 constexpr int kRowsInset = 8;
 constexpr int kBarToEdge = 2;
 constexpr double kPlusSize = 14.0;
 
+int headingHeight() { return theme::kSectionStyle.linePx(); }
+
+int buttonsTop() { return kPadding + headingHeight() + theme::kHeadingToContent; }
+
+int buttonHeight() { return theme::grown(28); }
+
+int lineTop() { return buttonsTop() + buttonHeight() + kButtonsToLine; }
+
+int rowsTop() { return lineTop() + 1 + kLineToRows; }
+
 QImage recordPicture(bool isRecording) {
-    const QImage* const found = AssetManager::shared().image(isRecording ? "stop_nr.png" : "record_nr.png");
+    const auto found = AssetManager::shared().image(isRecording ? "stop_nr.png" : "record_nr.png");
     return found ? *found : QImage();
 }
 
@@ -67,21 +74,21 @@ void TimelineCard::setSteps(const std::vector<MacroEvent>& steps) {
 }
 
 void TimelineCard::placeButtons() {
-    m_record->setGeometry(kPadding, kButtonsTop, m_record->widthWith(kButtonPadding), kButtonHeight);
-    m_insert->setGeometry(m_record->geometry().right() + 1 + kButtonGap, kButtonsTop,
-                          m_insert->widthWith(kButtonPadding), kButtonHeight);
+    m_record->setGeometry(kPadding, buttonsTop(), m_record->widthWith(kButtonPadding), buttonHeight());
+    m_insert->setGeometry(m_record->geometry().right() + 1 + kButtonGap, buttonsTop(),
+                          m_insert->widthWith(kButtonPadding), buttonHeight());
 }
 
 void TimelineCard::paintEvent(QPaintEvent* event) {
     HeadedCard::paintEvent(event);
     QPainter painter(this);
-    painter.fillRect(kRowsInset, kLineTop, width() - 2 * kRowsInset, 1, theme::kTimelineLine);
+    painter.fillRect(kRowsInset, lineTop(), width() - 2 * kRowsInset, 1, theme::kTimelineLine);
 }
 
 void TimelineCard::resizeEvent(QResizeEvent*) {
-    heading().setGeometry(kPadding, kPadding, width() - 2 * kPadding, kHeadingHeight);
+    heading().setGeometry(kPadding, kPadding, width() - 2 * kPadding, headingHeight());
     placeButtons();
-    m_box->place({kRowsInset, kRowsTop, width() - 2 * kRowsInset, height() - kRowsInset - kRowsTop}, width());
+    m_box->place({kRowsInset, rowsTop(), width() - 2 * kRowsInset, height() - kRowsInset - rowsTop()}, width());
 }
 
 }  // namespace lumo

@@ -25,15 +25,26 @@ void ActionGrid::setBound(const std::optional<std::vector<std::uint8_t>>& code) 
     m_group->placeTabStop();
 }
 
-int ActionGrid::rows() const { return (static_cast<int>(m_actions.size()) + m_across - 1) / m_across; }
+int ActionGrid::acrossWithin(int width) const {
+    int widest = 0;
+    for (const Action& action : m_actions) widest = std::max(widest, action.control->sizeHint().width());
+    return std::clamp((width + m_gap) / (widest + m_gap), 1, m_across);
+}
+
+int ActionGrid::rowsWithin(int width) const {
+    const int across = acrossWithin(width);
+    return (static_cast<int>(m_actions.size()) + across - 1) / across;
+}
 
 void ActionGrid::resizeEvent(QResizeEvent*) {
-    const std::vector<Column> columns(static_cast<std::size_t>(m_across));
+    const int across = acrossWithin(width());
+    m_group->setSteps({.across = 1, .down = across});
+    const std::vector<Column> columns(static_cast<std::size_t>(across));
     const auto extents = divide(width(), m_gap, columns);
-    const int rowHeight = (height() + m_gap) / rows() - m_gap;
+    const int rowHeight = (height() + m_gap) / rowsWithin(width()) - m_gap;
     for (int i = 0; i < static_cast<int>(m_actions.size()); ++i) {
-        const Extent& column = extents.at(static_cast<std::size_t>(i % m_across));
-        const int y = i / m_across * (rowHeight + m_gap);
+        const Extent& column = extents.at(static_cast<std::size_t>(i % across));
+        const int y = i / across * (rowHeight + m_gap);
         m_actions.at(static_cast<std::size_t>(i)).control->setGeometry(column.begin, y, column.length, rowHeight);
     }
 }

@@ -23,7 +23,8 @@ public:
     void add(PushControl& control, Binding binding);
     /// Marks the action of that code.
     void setBound(const std::optional<std::vector<std::uint8_t>>& code);
-    [[nodiscard]] int rows() const;
+    /// Fewer stand side by side where their names would not find room.
+    [[nodiscard]] int rowsWithin(int width) const;
 
 signals:
     void chosen(const lumo::Binding& binding);
@@ -32,6 +33,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    [[nodiscard]] int acrossWithin(int width) const;
+
     struct Action {
         PushControl* control = nullptr;
         Binding binding;

@@ -12,8 +12,9 @@
 namespace lumo {
 namespace {
 
-constexpr int kHeadingRoom = Section::kHeadingHeight + theme::kHeadingToContent;
 constexpr int kBlockGap = 12;
+
+int headingRoom() { return Section::headingHeight() + theme::kHeadingToContent; }
 
 }  // namespace
 
@@ -58,23 +59,34 @@ void ActionPage::setBound(const std::optional<std::vector<std::uint8_t>>& code) 
     for (const Block& block : m_blocks) block.grid->setBound(code);
 }
 
-int ActionPage::rowHeight() const {
+int ActionPage::rowsWithin(int width) const {
     int rows = 0;
+    for (const Block& block : m_blocks) rows += block.grid->rowsWithin(width);
+    return std::max(rows, m_measures.leastRows);
+}
+
+/// All but the rows with the gap below each.
+int ActionPage::fixedHeight() const {
     int fixed = kBlockGap * (static_cast<int>(m_blocks.size()) - 1);
-    for (const auto& [grid, section] : m_blocks) {
-        rows += grid->rows();
-        fixed += (section ? kHeadingRoom : 0) - m_measures.gap;
-    }
-    rows = std::max(rows, m_measures.leastRows);
-    return std::clamp((height() - fixed) / rows - m_measures.gap, m_measures.lowestRow, m_measures.highestRow);
+    for (const Block& block : m_blocks) fixed += (block.section ? headingRoom() : 0) - m_measures.gap;
+    return fixed;
+}
+
+int ActionPage::leastHeightWithin(int width) const {
+    return fixedHeight() + rowsWithin(width) * (theme::grown(m_measures.lowestRow) + m_measures.gap);
+}
+
+int ActionPage::rowHeight() const {
+    return std::clamp((height() - fixedHeight()) / rowsWithin(width()) - m_measures.gap,
+                      theme::grown(m_measures.lowestRow), theme::grown(m_measures.highestRow));
 }
 
 void ActionPage::resizeEvent(QResizeEvent*) {
     const int step = rowHeight() + m_measures.gap;
     int y = 0;
     for (const auto& [grid, section] : m_blocks) {
-        const int gridHeight = grid->rows() * step - m_measures.gap;
-        const int blockHeight = gridHeight + (section ? kHeadingRoom : 0);
+        const int gridHeight = grid->rowsWithin(width()) * step - m_measures.gap;
+        const int blockHeight = gridHeight + (section ? headingRoom() : 0);
         QWidget* const block = section ? static_cast<QWidget*>(section) : grid;
         block->setGeometry(0, y, width(), blockHeight);
         y += blockHeight + kBlockGap;

@@ -33,6 +33,9 @@ public:
     void addFunctionKeys();
     void addKeys(std::string_view heading, std::span<const BasicKey> keys);
 
+    /// Its rows as low as they may be.
+    [[nodiscard]] int leastHeightWithin(int width) const;
+
     /// Marks the action of that code.
     void setBound(const std::optional<std::vector<std::uint8_t>>& code);
 
@@ -49,6 +52,8 @@ private:
     };
     [[nodiscard]] ActionGrid* makeGrid();
     void addButton(ActionGrid& grid, std::string_view name, std::uint8_t usage);
+    [[nodiscard]] int rowsWithin(int width) const;
+    [[nodiscard]] int fixedHeight() const;
     [[nodiscard]] int rowHeight() const;
 
     Measures m_measures;

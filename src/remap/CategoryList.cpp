@@ -1,12 +1,14 @@
 #include "remap/CategoryList.h"
 
+#include "controls/Theme.h"
 #include "remap/CategoryTab.h"
 
 namespace lumo {
 namespace {
 
-constexpr int kTabHeight = 32;
 constexpr int kGap = 2;
+
+int tabHeight() { return theme::grown(32); }
 
 }  // namespace
 
@@ -17,6 +19,7 @@ CategoryList::CategoryList(QWidget* parent) : QWidget(parent), m_group(new Focus
         m_group->add(*tab);
         m_tabs.push_back(tab);
     }
+    setMinimumHeight(static_cast<int>(m_tabs.size()) * (tabHeight() + kGap) - kGap);
 }
 
 void CategoryList::setSelected(std::string_view key) {
@@ -29,8 +32,8 @@ QAccessibleInterface* CategoryList::makeAccessible() { return new QAccessibleWid
 void CategoryList::resizeEvent(QResizeEvent*) {
     int y = 0;
     for (CategoryTab* const tab : m_tabs) {
-        tab->setGeometry(0, y, width(), kTabHeight);
-        y += kTabHeight + kGap;
+        tab->setGeometry(0, y, width(), tabHeight());
+        y += tabHeight() + kGap;
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "app/UIState.h"
 #include "controls/Card.h"
+#include "controls/CardRows.h"
 #include "controls/PushButton.h"
 #include "controls/Section.h"
 #include "controls/Theme.h"
@@ -21,18 +22,25 @@ constexpr int kNarrowCategories = 176;  // in the smallest window
 constexpr int kWideCategories = 192;    // in the usual one, and in larger ones
 constexpr int kNarrowPage = 868;
 constexpr int kUsualPage = 928;
-constexpr int kFooterHeight = 32;
 constexpr int kButtonGap = 8;
 constexpr int kButtonPadding = 12;
+
+constexpr int kLeastRight = 480;
 
 constexpr ActionPage::Measures kFiveCards{5, 8, 80, 140, 2};
 constexpr ActionPage::Measures kFourCards{4, 8, 80, 140, 2};
 constexpr ActionPage::Measures kFunctionKeys{6, 8, 56, 56};
 constexpr ActionPage::Measures kSmallKeys{13, 6, 28, 40};
 
+int footerHeight() { return theme::grown(32); }
+
+int actionsTop() { return TargetPanel::panelHeight() + theme::kCardGap; }
+
+int footerRoom() { return theme::kCardGap + footerHeight(); }
+
 int categoriesWidth(int pageWidth) {
     const int wider = (pageWidth - kNarrowPage) * (kWideCategories - kNarrowCategories) / (kUsualPage - kNarrowPage);
-    return std::clamp(kNarrowCategories + wider, kNarrowCategories, kWideCategories);
+    return theme::widened(std::clamp(kNarrowCategories + wider, kNarrowCategories, kWideCategories));
 }
 
 Card* makeCategoryCard(CategoryList* categories, QWidget* parent) {
@@ -60,7 +68,6 @@ KeyRemapView::KeyRemapView(VexaProtocol& link, UIState& state, KeyboardModel& ke
       m_refresh(main, [this] { refresh(); }),
       m_stateChanges(state.observe([this] { m_refresh.request(); })),
       m_keyboardChanges(keyboard.observe([this] { m_refresh.request(); })) {
-    setMinimumHeight(theme::kShortestPage);
     m_save->setSymbol("arrow.down.doc.fill");
     connectControls();
     refresh();
@@ -106,19 +113,36 @@ void KeyRemapView::refresh() {
 }
 
 void KeyRemapView::resizeEvent(QResizeEvent*) {
-    const int left = categoriesWidth(width()) + theme::kCardGap;
-    const int room = width() - left;
-    const int footerY = height() - kFooterHeight;
-    const int actionsY = TargetPanel::kHeight + theme::kCardGap;
-    m_categoryCard->setGeometry(0, 0, left - theme::kCardGap, height());
-    m_target->setGeometry(left, 0, room, TargetPanel::kHeight);
+    const CardColumn categories{{0.0, static_cast<double>(categoriesWidth(width()))},
+                                [this](int) { return m_categoryCard->leastHeight(); },
+                                [this](const QRect& place) { m_categoryCard->setGeometry(place); }};
+    const CardColumn actions{{1.0, static_cast<double>(theme::widened(kLeastRight))},
+                             [this](int room) { return actionsTop() + leastActionsHeight(room) + footerRoom(); },
+                             [this](const QRect& place) { placeActions(place); }};
+    placeCards(*this, theme::kShortestPage, std::array{categories, actions});
+}
+
+/// Of the highest of the pages: the scroll position shall not jump with the category.
+int KeyRemapView::leastActionsHeight(int width) const {
+    int least = 0;
+    for (const auto& [key, page] : m_pages) least = std::max(least, page->leastHeightWithin(width));
+    return least;
+}
+
+void KeyRemapView::placeActions(const QRect& place) {
+    const int left = place.left();
+    const int top = place.top();
+    const int room = place.width();
+    m_target->setGeometry(left, top, room, TargetPanel::panelHeight());
     for (const auto& [key, page] : m_pages) {
-        page->setGeometry(left, actionsY, room, footerY - theme::kCardGap - actionsY);
+        page->setGeometry(left, top + actionsTop(), room, place.height() - actionsTop() - footerRoom());
     }
+    const int right = left + room;
+    const int footerY = top + place.height() - footerHeight();
     const int resetWidth = m_reset->widthWith(kButtonPadding);
     const int saveWidth = m_save->widthWith(kButtonPadding);
-    m_reset->setGeometry(width() - resetWidth, footerY, resetWidth, kFooterHeight);
-    m_save->setGeometry(width() - resetWidth - kButtonGap - saveWidth, footerY, saveWidth, kFooterHeight);
+    m_reset->setGeometry(right - resetWidth, footerY, resetWidth, footerHeight());
+    m_save->setGeometry(right - resetWidth - kButtonGap - saveWidth, footerY, saveWidth, footerHeight());
 }
 
 }  // namespace lumo

@@ -38,6 +38,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    [[nodiscard]] int leastActionsHeight(int width) const;
+    void placeActions(const QRect& place);
     using Pages = std::vector<std::pair<std::string_view, ActionPage*>>;  // by the key of their category
 
     [[nodiscard]] Pages makePages();

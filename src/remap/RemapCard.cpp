@@ -16,11 +16,12 @@ namespace {
 constexpr double kIconSize = 32.0;
 constexpr double kIconGap = 8.0;
 constexpr double kLeastPadding = 6.0;
-constexpr double kContentHeight = kIconSize + kIconGap + theme::kTileStyle.linePx;
 constexpr QColor kSymbolColor{0xE4, 0xE4, 0xE8};
 constexpr PressColors kFill{theme::kTile, theme::kTileHover, theme::kTilePressed};
 constexpr PressColors kLine{theme::kTileLine, theme::kTileLineHover, theme::kTileLine};
 constexpr PressColors kName{theme::kTextTile, theme::white(100), theme::kTextRowPressed};
+
+double contentHeight() { return kIconSize + kIconGap + theme::kTileStyle.linePx(); }
 
 }  // namespace
 
@@ -33,6 +34,10 @@ RingShape RemapCard::ringShape() const { return ringAround(rect(), theme::kBoxRa
 
 QString RemapCard::shownName() const { return m_lettering.elided(text(), width() - 2.0 * kLeastPadding); }
 
+QSize RemapCard::sizeHint() const {
+    return {static_cast<int>(std::ceil(m_lettering.widthOf(text()) + 2.0 * kLeastPadding)), height()};
+}
+
 bool RemapCard::isElided() const { return shownName() != typeset(text()); }
 
 QString RemapCard::toolTipText() const { return isElided() ? text() : QString(); }
@@ -40,7 +45,7 @@ QString RemapCard::toolTipText() const { return isElided() ? text() : QString();
 void RemapCard::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintSurface(painter);
-    const double top = (height() - kContentHeight) / 2.0;
+    const double top = (height() - contentHeight()) / 2.0;
     paintIcon(painter, {(width() - kIconSize) / 2.0, top, kIconSize, kIconSize});
     paintName(painter, top + kIconSize + kIconGap);
 }
@@ -51,7 +56,7 @@ void RemapCard::paintSurface(QPainter& painter) const {
 }
 
 void RemapCard::paintIcon(QPainter& painter, const QRectF& frame) const {
-    const QImage* const picture = AssetManager::shared().image(m_icon);
+    const auto picture = AssetManager::shared().image(m_icon);
     if (!picture) return paintSymbol(painter, frame, "circle.grid.2x2", kSymbolColor);
     paintPicture(painter, frame, *picture);
 }
@@ -60,7 +65,7 @@ void RemapCard::paintName(QPainter& painter, double top) const {
     painter.setPen(mix(kName.at(hover(), press()), theme::kTextRowSelected, selection()));
     const QString name = shownName();
     const double left = (width() - m_lettering.widthOf(name)) / 2.0;
-    m_lettering.paint(painter, QRectF(left, top, width() - left, theme::kTileStyle.linePx), name);
+    m_lettering.paint(painter, QRectF(left, top, width() - left, theme::kTileStyle.linePx()), name);
 }
 
 }  // namespace lumo

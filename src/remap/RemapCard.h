@@ -17,6 +17,8 @@ public:
     RemapCard(const RemapItem& item, QWidget* parent);
 
     [[nodiscard]] bool isElided() const;
+    /// The least that its name takes; the height is as it is.
+    [[nodiscard]] QSize sizeHint() const override;
 
 protected:
     [[nodiscard]] RingShape ringShape() const override;

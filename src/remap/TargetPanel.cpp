@@ -14,10 +14,15 @@ namespace {
 constexpr int kPadding = 16;
 constexpr int kCapGap = 14;
 constexpr int kLineGap = 2;
-constexpr int kNameHeight = theme::kTargetStyle.linePx;
-constexpr int kLinesTop = (TargetPanel::kHeight - kNameHeight - kLineGap - theme::kRowStyle.linePx) / 2;
+constexpr int kLinesPadding = 12;  // above and below
+
+int nameHeight() { return theme::kTargetStyle.linePx(); }
+
+int mappingTop() { return kLinesPadding + nameHeight() + kLineGap; }
 
 }  // namespace
+
+int TargetPanel::panelHeight() { return mappingTop() + theme::kRowStyle.linePx() + kLinesPadding; }
 
 TargetPanel::TargetPanel(QWidget* parent)
     : QWidget(parent),
@@ -57,9 +62,9 @@ void TargetPanel::place() {
     const int nameX = x + m_heading->sizeHint().width();
     m_prompt->setGeometry(kPadding, 0, right - kPadding, height());
     m_cap->setGeometry(kPadding, (height() - cap.height()) / 2, cap.width(), cap.height());
-    m_heading->setGeometry(x, kLinesTop, nameX - x, kNameHeight);
-    m_name->setGeometry(nameX, kLinesTop, right - nameX, kNameHeight);
-    m_mapping->setGeometry(x, kLinesTop + kNameHeight + kLineGap, right - x, theme::kRowStyle.linePx);
+    m_heading->setGeometry(x, kLinesPadding, nameX - x, nameHeight());
+    m_name->setGeometry(nameX, kLinesPadding, right - nameX, nameHeight());
+    m_mapping->setGeometry(x, mappingTop(), right - x, theme::kRowStyle.linePx());
 }
 
 }  // namespace lumo

@@ -14,7 +14,7 @@ class TargetPanel final : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int kHeight = 60;
+    static int panelHeight();
 
     explicit TargetPanel(QWidget* parent);
 

@@ -14,9 +14,13 @@ namespace {
 constexpr int kPadding = 10;
 constexpr int kSidePadding = 14;
 constexpr int kHeadingToRows = 2;
-constexpr int kRowHeight = 24;
-constexpr int kPitch = kRowHeight + 1;  // and the line below
-constexpr int kRowsTop = Section::kHeadingHeight + kHeadingToRows;
+constexpr int kFoot = 7;
+
+int rowHeight() { return theme::grown(24); }
+
+int pitch() { return rowHeight() + 1; }  // and the line below
+
+int rowsTop() { return Section::headingHeight() + kHeadingToRows; }
 
 }  // namespace
 
@@ -24,22 +28,26 @@ DeviceSheet::DeviceSheet(QWidget* parent) : QWidget(parent), m_section(new Secti
     for (const auto& [label, value] : kDeviceSpecs) m_rows.push_back(new SpecRow(label, value, m_section));
 }
 
+int DeviceSheet::leastHeight() const {
+    return kPadding + rowsTop() + static_cast<int>(m_rows.size()) * pitch() + kFoot;
+}
+
 void DeviceSheet::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintCard(painter, rect());
     const int lines = static_cast<int>(m_rows.size()) - 1;
     for (int i = 0; i < lines; ++i) {
-        painter.fillRect(kSidePadding, kPadding + kRowsTop + i * kPitch + kRowHeight, width() - 2 * kSidePadding, 1,
+        painter.fillRect(kSidePadding, kPadding + rowsTop() + i * pitch() + rowHeight(), width() - 2 * kSidePadding, 1,
                          theme::kRowLine);
     }
 }
 
 void DeviceSheet::resizeEvent(QResizeEvent*) {
     m_section->setGeometry(rect().adjusted(kSidePadding, kPadding, -kSidePadding, 0));
-    int top = kRowsTop;
+    int top = rowsTop();
     for (SpecRow* const row : m_rows) {
-        row->setGeometry(0, top, m_section->width(), kRowHeight);
-        top += kPitch;
+        row->setGeometry(0, top, m_section->width(), rowHeight());
+        top += pitch();
     }
 }
 

@@ -16,6 +16,8 @@ class DeviceSheet final : public QWidget {
 public:
     explicit DeviceSheet(QWidget* parent);
 
+    [[nodiscard]] int leastHeight() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

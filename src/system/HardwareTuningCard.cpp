@@ -16,14 +16,21 @@ namespace {
 constexpr int kRoom = SliderSection::kRoom;
 constexpr int kPadding = 10;
 constexpr int kSidePadding = 14;
-constexpr int kSlidersTop = 21;  // from the heading's top
+constexpr int kHeadingToSliders = 5;
+constexpr int kFoot = 8;
+constexpr int kStackGap = 10;  // between lines
 constexpr int kGap = 32;
 constexpr int kNarrowGap = 24;
 constexpr int kNarrow = 900;
-constexpr int kButtonTop = 33;
-constexpr int kButtonHeight = 28;
+constexpr int kButtonFoot = 4;  // above the foot of a slider's section
 constexpr int kButtonPadding = 12;
 constexpr QColor kLabelColor{0xE2, 0xE2, 0xE6};
+
+int slidersTop() { return Section::headingHeight() + kHeadingToSliders; }
+
+int buttonHeight() { return theme::grown(28); }
+
+int gapWithin(int width) { return width < kNarrow ? kNarrowGap : kGap; }
 
 SliderSection::ValueText wholeNumber(double value, const char* unit) {
     return {std::to_string(static_cast<std::int64_t>(value)) + unit, ""};
@@ -58,18 +65,39 @@ void HardwareTuningCard::paintEvent(QPaintEvent*) {
     paintCard(painter, rect());
 }
 
+bool HardwareTuningCard::isStackedWithin(int width) const {
+    const int least = std::max(m_sleep->leastWidth(), m_debounce->leastWidth()) - 2 * kRoom;
+    const int room = width - 2 * kSidePadding - m_restore->widthWith(kButtonPadding) - 2 * gapWithin(width);
+    return 2 * least > room;
+}
+
+int HardwareTuningCard::heightWithin(int width) const {
+    const int below =
+        isStackedWithin(width) ? kStackGap + SliderSection::sectionHeight() + kStackGap + buttonHeight() : 0;
+    return kPadding + slidersTop() + SliderSection::sectionHeight() + below + kFoot;
+}
+
 void HardwareTuningCard::resizeEvent(QResizeEvent*) {
     m_section->setGeometry(kSidePadding - kRoom, kPadding, width() - 2 * (kSidePadding - kRoom), height() - kPadding);
     const int inner = width() - 2 * kSidePadding;
-    const int gap = width() < kNarrow ? kNarrowGap : kGap;
     const int buttonWidth = m_restore->widthWith(kButtonPadding);
-    const auto sliders = divide(inner - buttonWidth - gap, gap, std::array{Column{}, Column{}});
-    const auto place = [](SliderSection& section, const Extent& extent) {
-        section.setGeometry(extent.begin, kSlidersTop, extent.length + 2 * kRoom, SliderSection::kHeight);
+    const int sliderHeight = SliderSection::sectionHeight();
+    const auto place = [sliderHeight](SliderSection& section, const Extent& extent, int top) {
+        section.setGeometry(extent.begin, top, extent.length + 2 * kRoom, sliderHeight);
     };
-    place(*m_sleep, sliders[0]);
-    place(*m_debounce, sliders[1]);
-    m_restore->setGeometry(kRoom + inner - buttonWidth, kButtonTop, buttonWidth, kButtonHeight);
+    int buttonTop = slidersTop() + sliderHeight - kButtonFoot - buttonHeight();
+    if (isStackedWithin(width())) {
+        const int second = slidersTop() + sliderHeight + kStackGap;
+        place(*m_sleep, {0, inner}, slidersTop());
+        place(*m_debounce, {0, inner}, second);
+        buttonTop = second + sliderHeight + kStackGap - kButtonFoot;
+    } else {
+        const int gap = gapWithin(width());
+        const auto sliders = divide(inner - buttonWidth - gap, gap, std::array{Column{}, Column{}});
+        place(*m_sleep, sliders[0], slidersTop());
+        place(*m_debounce, sliders[1], slidersTop());
+    }
+    m_restore->setGeometry(kRoom + inner - buttonWidth, buttonTop, buttonWidth, buttonHeight());
 }
 
 }  // namespace lumo

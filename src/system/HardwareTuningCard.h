@@ -16,9 +16,10 @@ class HardwareTuningCard final : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int kHeight = 83;
-
     HardwareTuningCard(MainQueue main, QWidget* parent);
+
+    /// What it needs: where heading and value of its sliders would not fit side by side, these get a line each.
+    [[nodiscard]] int heightWithin(int width) const;
 
     void setSleepMinutes(double minutes);
     /// Also a value between the slider's steps, until it is moved.
@@ -36,6 +37,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    [[nodiscard]] bool isStackedWithin(int width) const;
     Section* m_section;
     SliderSection* m_sleep;
     SliderSection* m_debounce;

@@ -16,22 +16,36 @@
 namespace lumo {
 namespace {
 
-constexpr QRect kIconField{0, 14, 30, 30};
+constexpr int kIconSize = 30;
 constexpr double kIconRadius = 8.0;
 constexpr int kSymbolSize = 18;
 constexpr int kTextX = 40;
 constexpr int kTitleToBadge = 8;
 constexpr int kMostLines = 2;
-constexpr int kButtonTop = 17;
-constexpr int kLowButtonTop = 25;  // beside the subtitle alone
-constexpr int kButtonHeight = 24;
+constexpr int kAboveAndBelow = 15;
 constexpr int kButtonPadding = 10;
 constexpr int kButtonGap = 6;
 constexpr int kTextToButton = 10;
 constexpr double kGearSize = 16.0;
 constexpr QColor kSubtitleColor{0xAC, 0xAC, 0xB2};
 
+int buttonHeight() { return theme::grown(24); }
+
+int subtitleHeight() { return kMostLines * theme::kFineStyle.linePx(); }
+
+int centred(int height) { return (PermissionRow::rowHeight() - height) / 2; }
+
+/// Beside the subtitle alone.
+int lowButtonTop() {
+    const int titleHeight = theme::kStrongStyle.linePx();
+    return centred(titleHeight + subtitleHeight()) + titleHeight + (subtitleHeight() - buttonHeight()) / 2;
+}
+
+QRect iconField() { return {0, centred(kIconSize), kIconSize, kIconSize}; }
+
 }  // namespace
+
+int PermissionRow::rowHeight() { return theme::kStrongStyle.linePx() + subtitleHeight() + kAboveAndBelow; }
 
 PermissionRow::PermissionRow(QString icon, std::string_view title, std::string_view subtitle, bool isAuthorized,
                              const std::function<void()>& onRequest, const std::function<void()>& onOpenSettings,
@@ -65,9 +79,9 @@ QAccessibleInterface* PermissionRow::makeAccessible() { return new QAccessibleWi
 
 void PermissionRow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    paintPanel(painter, kIconField, kIconRadius, m_isAuthorized ? theme::kOkFill : theme::kWarnFill, Qt::transparent);
+    paintPanel(painter, iconField(), kIconRadius, m_isAuthorized ? theme::kOkFill : theme::kWarnFill, Qt::transparent);
     QRectF frame(0.0, 0.0, kSymbolSize, kSymbolSize);
-    frame.moveCenter(QRectF(kIconField).center());
+    frame.moveCenter(QRectF(iconField()).center());
     paintSymbol(painter, frame, m_icon, m_isAuthorized ? theme::kTextOk : theme::kTextWarn);
 }
 
@@ -81,13 +95,14 @@ void PermissionRow::place() {
     const int headingWidth = m_title->sizeHint().width() + kTitleToBadge + m_badge->sizeHint().width();
     // In a narrow window title and badge may need the whole width: the buttons then make way.
     const bool makesWay = headingWidth > textWidth;
-    const int buttonTop = makesWay ? kLowButtonTop : kButtonTop;
-    m_gear->setGeometry(gearX, buttonTop, IconButton::kSmallSize, IconButton::kSmallSize);
-    m_request->setGeometry(requestX, buttonTop, requestWidth, kButtonHeight);
-    const int subtitleHeight = m_subtitle->heightWithin(textWidth);
-    const int top = (height() - m_title->sizeHint().height() - subtitleHeight) / 2;
+    const int buttonTop = makesWay ? lowButtonTop() : centred(buttonHeight());
+    const int gearTop = buttonTop + (buttonHeight() - IconButton::kSmallSize) / 2;
+    m_gear->setGeometry(gearX, gearTop, IconButton::kSmallSize, IconButton::kSmallSize);
+    m_request->setGeometry(requestX, buttonTop, requestWidth, buttonHeight());
+    const int shownSubtitle = m_subtitle->heightWithin(textWidth);
+    const int top = (height() - m_title->sizeHint().height() - shownSubtitle) / 2;
     placeHeading(top, makesWay ? width() - kTextX : textWidth);
-    m_subtitle->setGeometry(kTextX, m_title->geometry().bottom() + 1, textWidth, subtitleHeight);
+    m_subtitle->setGeometry(kTextX, m_title->geometry().bottom() + 1, textWidth, shownSubtitle);
 }
 
 void PermissionRow::placeHeading(int top, int width) {

@@ -21,7 +21,7 @@ class PermissionRow final : public QWidget, public AccessibleSource {
     Q_OBJECT
 
 public:
-    static constexpr int kHeight = 59;
+    static int rowHeight();
 
     /// `icon` is the name of a symbol.
     PermissionRow(QString icon, std::string_view title, std::string_view subtitle, bool isAuthorized,

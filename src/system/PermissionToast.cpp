@@ -16,11 +16,23 @@
 namespace lumo {
 namespace {
 
-constexpr QRect kSymbolFrame{16, 19, 22, 22};
-constexpr QRect kTextPlace{50, 13, 288, 34};
-constexpr QRect kFixPlace{350, 16, 104, 28};
-constexpr QPoint kClosePlace{460, 16};
+constexpr int kSymbolX = 16;
+constexpr int kSymbolSize = 22;
+constexpr int kTextX = 50;
+constexpr int kTextWidth = 288;
+constexpr int kTextPadding = 13;  // above and below
+constexpr int kTextToFix = 12;
+constexpr int kFixWidth = 104;
+constexpr int kFixToClose = 6;
+constexpr int kFoot = 12;  // right of all
 constexpr double kCloseSymbol = 16.0;
+
+int fixWidth() { return theme::widened(kFixWidth); }
+
+/// All but the text, on both sides of it.
+int beside() { return kTextX + kTextToFix + fixWidth() + kFixToClose + IconButton::kSize + kFoot; }
+
+int wholeWidth() { return beside() + theme::widened(kTextWidth); }
 
 SoftShadow toastShadow() { return {0.50, 16.0, 10.0}; }
 
@@ -41,12 +53,9 @@ PermissionToast::PermissionToast(PermissionManager& permissions, UIState& state,
       m_coming(theme::kPromptInMs, [this] { followAppearance(); }) {
     setAccessibleName(m_text->text());
     hide();
-    resize(kSize);
     setGraphicsEffect(m_opacity);
     m_shadow = new DropShadow(*this, toastShadow());
-    m_text->setGeometry(kTextPlace);
-    m_fix->setGeometry(kFixPlace);
-    m_close->move(kClosePlace);
+    setRoom(wholeWidth());
     const auto openSettings = [&state] { state.currentTab.set(NavTab::settings); };
     connect(m_text, &PushControl::clicked, this, openSettings);
     connect(m_fix, &PushControl::clicked, this, openSettings);
@@ -64,6 +73,15 @@ void PermissionToast::setShown(bool isShown) {
         announce(*this, accessibleName());
     }
     m_coming.setShown(isShown);
+}
+
+void PermissionToast::setRoom(int room) {
+    resize(std::min(room, wholeWidth()), ToastText::textHeight() + 2 * kTextPadding);
+    const int fixHeight = theme::grown(IconButton::kSize);
+    m_text->setGeometry(kTextX, kTextPadding, width() - beside(), ToastText::textHeight());
+    const int fixX = kTextX + m_text->width() + kTextToFix;
+    m_fix->setGeometry(fixX, (height() - fixHeight) / 2, fixWidth(), fixHeight);
+    m_close->move(fixX + fixWidth() + kFixToClose, (height() - IconButton::kSize) / 2);
 }
 
 void PermissionToast::setCorner(QPoint corner) {
@@ -91,16 +109,15 @@ void PermissionToast::followAppearance() {
     emit shareChanged();
 }
 
-void PermissionToast::place() {
-    move(m_corner - QPoint(kSize.width(), kSize.height()) + QPoint(0, qRound(m_coming.drop())));
-}
+void PermissionToast::place() { move(m_corner - QPoint(width(), height()) + QPoint(0, qRound(m_coming.drop()))); }
 
 QAccessibleInterface* PermissionToast::makeAccessible() { return new AccessibleToast(*this); }
 
 void PermissionToast::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintPanel(painter, rect(), theme::kCardRadius, theme::kToast, theme::kToastLine);
-    paintSymbol(painter, kSymbolFrame, "exclamationmark.triangle.fill", theme::kTextWarn);
+    const QRectF symbol(kSymbolX, (height() - kSymbolSize) / 2.0, kSymbolSize, kSymbolSize);
+    paintSymbol(painter, symbol, "exclamationmark.triangle.fill", theme::kTextWarn);
 }
 
 }  // namespace lumo

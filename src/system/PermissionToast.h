@@ -22,11 +22,11 @@ class PermissionToast final : public QWidget, public AccessibleSource {
     Q_OBJECT
 
 public:
-    static constexpr QSize kSize{500, 60};
-
     PermissionToast(PermissionManager& permissions, UIState& state, QWidget* parent);
 
     void setShown(bool isShown);
+    /// The most that it may be wide.
+    void setRoom(int room);
     /// The lower right corner, once it has risen.
     void setCorner(QPoint corner);
     /// Makes its controls the last that the Tab key comes to.

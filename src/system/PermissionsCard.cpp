@@ -17,15 +17,16 @@ namespace {
 
 constexpr int kPadding = 8;
 constexpr int kSidePadding = 14;
-constexpr int kButtonHeight = 24;
 constexpr int kRefreshPadding = 7;
 constexpr int kRelaunchPadding = 10;
 constexpr double kSymbolSize = 14.0;
 constexpr int kMostRoomAboveRows = 13;
-constexpr int kRowsHeight = 2 * PermissionRow::kHeight + 1;  // and the line between them
 constexpr int kRowsToNotice = 5;
 constexpr int kNoticeToFoot = 8;
-static_assert(theme::kPermissionsHeadingStyle.linePx == kButtonHeight);
+
+int buttonHeight() { return theme::kPermissionsHeadingStyle.linePx(); }
+
+int rowsHeight() { return 2 * PermissionRow::rowHeight() + 1; }  // and the line between them
 
 int innerWidth(int width) { return width - 2 * kSidePadding; }
 
@@ -70,8 +71,8 @@ void PermissionsCard::refresh() {
 }
 
 int PermissionsCard::leastHeightWithin(int width) const {
-    return kPadding + kButtonHeight + kRowsHeight + kRowsToNotice + m_notice->heightWithin(innerWidth(width)) +
-           kNoticeToFoot + kButtonHeight + kPadding;
+    return kPadding + buttonHeight() + rowsHeight() + kRowsToNotice + m_notice->heightWithin(innerWidth(width)) +
+           kNoticeToFoot + buttonHeight() + kPadding;
 }
 
 void PermissionsCard::paintEvent(QPaintEvent*) {
@@ -84,15 +85,15 @@ void PermissionsCard::resizeEvent(QResizeEvent*) {
     m_section->setGeometry(rect().adjusted(kSidePadding, kPadding, -kSidePadding, 0));
     const int inner = m_section->width();
     const int refreshWidth = m_refresh->widthWith(kRefreshPadding);
-    m_refresh->setGeometry(inner - refreshWidth, 0, refreshWidth, kButtonHeight);
+    m_refresh->setGeometry(inner - refreshWidth, 0, refreshWidth, buttonHeight());
     const int spare = height() - leastHeightWithin(width()) - 2;
-    int top = kButtonHeight + std::clamp(spare, 0, kMostRoomAboveRows);
-    m_microphone->setGeometry(0, top, inner, PermissionRow::kHeight);
-    top += PermissionRow::kHeight;
+    int top = buttonHeight() + std::clamp(spare, 0, kMostRoomAboveRows);
+    m_microphone->setGeometry(0, top, inner, PermissionRow::rowHeight());
+    top += PermissionRow::rowHeight();
     m_lineY = kPadding + top;
     ++top;
-    m_keys->setGeometry(0, top, inner, PermissionRow::kHeight);
-    placeFoot(top + PermissionRow::kHeight + kRowsToNotice);
+    m_keys->setGeometry(0, top, inner, PermissionRow::rowHeight());
+    placeFoot(top + PermissionRow::rowHeight() + kRowsToNotice);
 }
 
 void PermissionsCard::placeFoot(int top) {
@@ -101,8 +102,8 @@ void PermissionsCard::placeFoot(int top) {
     m_notice->setGeometry(0, top, inner, noticeHeight);
     const int footTop = top + noticeHeight + kNoticeToFoot;
     const int relaunchWidth = m_relaunch->widthWith(kRelaunchPadding);
-    m_relaunch->setGeometry(inner - relaunchWidth, footTop, relaunchWidth, kButtonHeight);
-    m_line->setGeometry(0, footTop, inner - relaunchWidth - kRelaunchPadding, kButtonHeight);
+    m_relaunch->setGeometry(inner - relaunchWidth, footTop, relaunchWidth, buttonHeight());
+    m_line->setGeometry(0, footTop, inner - relaunchWidth - kRelaunchPadding, buttonHeight());
 }
 
 }  // namespace lumo

@@ -17,7 +17,7 @@ constexpr int kSymbolToHeading = 14;
 constexpr int kHeadingToText = 6;
 constexpr int kTextToBox = 18;
 constexpr int kBoxToButtons = 20;
-constexpr int kButtonHeight = 36;
+constexpr int kWidth = 448;
 constexpr int kButtonGap = 10;
 constexpr int kLineWidth = 1;
 constexpr int kMostLines = 4;
@@ -41,6 +41,8 @@ private:
 
 }  // namespace
 
+int PromptCard::contentWidth() { return theme::widened(kWidth) - 2 * kPadding; }
+
 PromptCard::PromptCard(const Symbol& symbol, const Texts& texts, QWidget* box)
     : m_ground(new CardGround(symbol, this)),
       m_heading(new TextBlock(theme::kPopupTitleStyle, theme::kText, kMostLines, this)),
@@ -53,7 +55,7 @@ PromptCard::PromptCard(const Symbol& symbol, const Texts& texts, QWidget* box)
     m_heading->centreLines();
     m_text->setText(texts.text);
     m_text->centreLines();
-    resize(kWidth, layOut(symbol.height));
+    resize(contentWidth() + 2 * kPadding, layOut(symbol.height));
     constexpr int kEnd = static_cast<int>(theme::kPopupRadius);
     m_ground->setGeometry(rect().adjusted(kLineWidth, kEnd, -kLineWidth, -kEnd));
 }
@@ -61,16 +63,17 @@ PromptCard::PromptCard(const Symbol& symbol, const Texts& texts, QWidget* box)
 int PromptCard::layOut(int symbolHeight) {
     int top = kPadding + symbolHeight + kSymbolToHeading;
     const auto place = [&top](QWidget& widget, int height, int gapBelow) {
-        widget.setGeometry(kPadding, top, kContentWidth, height);
+        widget.setGeometry(kPadding, top, contentWidth(), height);
         top += height + gapBelow;
     };
-    place(*m_heading, m_heading->heightWithin(kContentWidth), kHeadingToText);
-    place(*m_text, m_text->heightWithin(kContentWidth), kTextToBox);
+    place(*m_heading, m_heading->heightWithin(contentWidth()), kHeadingToText);
+    place(*m_text, m_text->heightWithin(contentWidth()), kTextToBox);
     place(*m_box, m_box->height(), kBoxToButtons);
-    constexpr int kButtonWidth = (kContentWidth - kButtonGap) / 2;
-    m_first->setGeometry(kPadding, top, kButtonWidth, kButtonHeight);
-    m_second->setGeometry(kPadding + kButtonWidth + kButtonGap, top, kButtonWidth, kButtonHeight);
-    return top + kButtonHeight + kFootPadding;
+    const int buttonHeight = theme::grown(36);
+    const int buttonWidth = (contentWidth() - kButtonGap) / 2;
+    m_first->setGeometry(kPadding, top, buttonWidth, buttonHeight);
+    m_second->setGeometry(kPadding + buttonWidth + kButtonGap, top, buttonWidth, buttonHeight);
+    return top + buttonHeight + kFootPadding;
 }
 
 void PromptCard::paintEvent(QPaintEvent*) {

@@ -16,8 +16,7 @@ class PromptCard final : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int kWidth = 448;
-    static constexpr int kContentWidth = 392;
+    static int contentWidth();
 
     struct Symbol {
         int height = 0;  // and width

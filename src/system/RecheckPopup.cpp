@@ -29,10 +29,10 @@ class NoticeBox final : public QWidget {
 public:
     NoticeBox() : m_text(new TextBlock(theme::kNoticeStyle, theme::kTextNotice, kMostLines, this)) {
         m_text->setText(kNotice);
-        constexpr int kTextWidth = PromptCard::kContentWidth - 2 * kSidePadding;
-        const int textHeight = m_text->heightWithin(kTextWidth);
-        m_text->setGeometry(kSidePadding, kPadding, kTextWidth, textHeight);
-        resize(PromptCard::kContentWidth, textHeight + 2 * kPadding);
+        const int textWidth = PromptCard::contentWidth() - 2 * kSidePadding;
+        const int textHeight = m_text->heightWithin(textWidth);
+        m_text->setGeometry(kSidePadding, kPadding, textWidth, textHeight);
+        resize(PromptCard::contentWidth(), textHeight + 2 * kPadding);
     }
 
 protected:

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "app/UIState.h"
-#include "controls/Columns.h"
+#include "controls/CardRows.h"
 #include "controls/Theme.h"
 #include "device/VexaProtocol.h"
 #include "system/DeviceSheet.h"
@@ -16,8 +16,8 @@ namespace lumo {
 namespace {
 
 constexpr int kShortest = 380;
-constexpr int kCardsTop = HardwareTuningCard::kHeight + theme::kCardGap;
-constexpr std::array<Column, 2> kColumns{Column{420.0, 404.0}, Column{496.0}};
+constexpr int kLeastSheet = 404;
+constexpr int kLeastPermissions = 430;
 
 }  // namespace
 
@@ -33,7 +33,6 @@ SettingsView::SettingsView(VexaProtocol& link, UIState& state, PermissionManager
       m_linkChanges(link.observe([this] { m_refresh.request(); })),
       m_stateChanges(state.observe([this] { m_refresh.request(); })),
       m_permissionChanges(permissions.observe([this] { m_refresh.request(); })) {
-    setMinimumHeight(kShortest);
     connectControls();
     refresh();
 }
@@ -54,13 +53,16 @@ void SettingsView::refresh() {
 }
 
 void SettingsView::resizeEvent(QResizeEvent*) {
-    m_tuning->setGeometry(0, 0, width(), HardwareTuningCard::kHeight);
-    const auto columns = divide(width(), theme::kCardGap, kColumns);
-    // Another interface font may need more lines than ours.
-    setMinimumHeight(std::max(kShortest, kCardsTop + m_permissions->leastHeightWithin(columns[1].length)));
-    const int cardHeight = height() - kCardsTop;
-    m_sheet->setGeometry(columns[0].begin, kCardsTop, columns[0].length, cardHeight);
-    m_permissions->setGeometry(columns[1].begin, kCardsTop, columns[1].length, cardHeight);
+    const int tuningHeight = m_tuning->heightWithin(width());
+    m_tuning->setGeometry(0, 0, width(), tuningHeight);
+    const auto least = [](int width) { return static_cast<double>(theme::widened(width)); };
+    const CardColumn sheet{{420.0, least(kLeastSheet)},
+                           [this](int) { return m_sheet->leastHeight(); },
+                           [this](const QRect& place) { m_sheet->setGeometry(place); }};
+    const CardColumn permissions{{496.0, least(kLeastPermissions)},
+                                 [this](int width) { return m_permissions->leastHeightWithin(width); },
+                                 [this](const QRect& place) { m_permissions->setGeometry(place); }};
+    placeCards(*this, kShortest, std::array{sheet, permissions}, tuningHeight + theme::kCardGap);
 }
 
 }  // namespace lumo

@@ -9,9 +9,9 @@
 namespace lumo {
 namespace {
 
-constexpr int kHeight = theme::kBadgeStyle.linePx;
 constexpr int kPadding = 7;
-constexpr double kRadius = kHeight / 2.0;
+
+int badgeHeight() { return theme::kBadgeStyle.linePx(); }
 
 }  // namespace
 
@@ -34,11 +34,11 @@ void StatusBadge::setGranted(bool isGranted) {
     update();
 }
 
-QSize StatusBadge::sizeHint() const { return {shown().sizeHint().width() + 2 * kPadding, kHeight}; }
+QSize StatusBadge::sizeHint() const { return {shown().sizeHint().width() + 2 * kPadding, badgeHeight()}; }
 
 void StatusBadge::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    paintPanel(painter, rect(), kRadius, m_isGranted ? theme::kOkFill : theme::kWarnFill, Qt::transparent);
+    paintPanel(painter, rect(), badgeHeight() / 2.0, m_isGranted ? theme::kOkFill : theme::kWarnFill, Qt::transparent);
 }
 
 void StatusBadge::resizeEvent(QResizeEvent*) {

@@ -16,9 +16,10 @@ constexpr int kSidePadding = 10;
 constexpr QRect kSymbolFrame{kSidePadding, kPadding, 16, 16};
 constexpr int kTextX = 35;
 constexpr int kMostLines = 6;
-constexpr int kHeadingHeight = theme::kNoticeHeadingStyle.linePx;
 constexpr double kRadius = 8.0;
 constexpr QColor kTextColor{0xBC, 0xBC, 0xC1};
+
+int headingHeight() { return theme::kNoticeHeadingStyle.linePx(); }
 
 int textWidthWithin(int width) { return width - kTextX - kSidePadding; }
 
@@ -36,7 +37,7 @@ TccNotice::TccNotice(QWidget* parent)
 }
 
 int TccNotice::heightWithin(int width) const {
-    return 2 * kPadding + kHeadingHeight + m_text->heightWithin(textWidthWithin(width));
+    return 2 * kPadding + headingHeight() + m_text->heightWithin(textWidthWithin(width));
 }
 
 void TccNotice::paintEvent(QPaintEvent*) {
@@ -47,8 +48,8 @@ void TccNotice::paintEvent(QPaintEvent*) {
 
 void TccNotice::resizeEvent(QResizeEvent*) {
     const int textWidth = textWidthWithin(width());
-    m_heading->setGeometry(kTextX, kPadding, textWidth, kHeadingHeight);
-    m_text->setGeometry(kTextX, kPadding + kHeadingHeight, textWidth, height() - 2 * kPadding - kHeadingHeight);
+    m_heading->setGeometry(kTextX, kPadding, textWidth, headingHeight());
+    m_text->setGeometry(kTextX, kPadding + headingHeight(), textWidth, height() - 2 * kPadding - headingHeight());
 }
 
 }  // namespace lumo

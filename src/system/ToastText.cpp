@@ -8,10 +8,13 @@
 namespace lumo {
 namespace {
 
-constexpr int kTitleLine = theme::kToastTitleStyle.linePx;
-constexpr int kDetailLine = theme::kDescriptionStyle.linePx;
+int titleLine() { return theme::kToastTitleStyle.linePx(); }
+
+int detailLine() { return theme::kDescriptionStyle.linePx(); }
 
 }  // namespace
+
+int ToastText::textHeight() { return titleLine() + detailLine(); }
 
 ToastText::ToastText(QString title, QString detail, QWidget* parent)
     : PushControl(title + ' ' + detail, QAccessible::PushButton, parent),
@@ -32,11 +35,11 @@ QString ToastText::toolTipText() const { return isElided() ? text() : QString();
 
 void ToastText::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QRectF both(0.0, (height() - kTitleLine - kDetailLine) / 2.0, width(), kTitleLine + kDetailLine);
+    const QRectF both(0.0, (height() - titleLine() - detailLine()) / 2.0, width(), titleLine() + detailLine());
     painter.setPen(mix(theme::kText, Qt::white, hover()));
-    m_titleLettering.paint(painter, both.adjusted(0, 0, 0, -kDetailLine), m_titleLettering.elided(m_title, width()));
+    m_titleLettering.paint(painter, both.adjusted(0, 0, 0, -detailLine()), m_titleLettering.elided(m_title, width()));
     painter.setPen(mix(theme::kTextBody, theme::kText, hover() * (1.0 - press())));
-    m_detailLettering.paint(painter, both.adjusted(0, kTitleLine, 0, 0), m_detailLettering.elided(m_detail, width()));
+    m_detailLettering.paint(painter, both.adjusted(0, titleLine(), 0, 0), m_detailLettering.elided(m_detail, width()));
 }
 
 }  // namespace lumo

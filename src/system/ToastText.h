@@ -11,6 +11,8 @@ class ToastText final : public PushControl {
     Q_OBJECT
 
 public:
+    static int textHeight();
+
     ToastText(QString title, QString detail, QWidget* parent);
 
 protected:

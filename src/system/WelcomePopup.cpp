@@ -29,12 +29,12 @@ public:
           m_keys(new PermissionExplainerRow("keyboard.fill", "2. Input Monitoring & Accessibility",
                                             "Allows Macro Studio key sequence recording & global macro triggers.",
                                             this)) {
-        constexpr int kWidth = PromptCard::kContentWidth;
-        const int upper = m_microphone->heightWithin(kWidth);
-        const int lower = m_keys->heightWithin(kWidth);
-        m_microphone->setGeometry(0, 0, kWidth, upper);
-        m_keys->setGeometry(0, upper + kLineHeight, kWidth, lower);
-        resize(kWidth, upper + kLineHeight + lower);
+        const int width = PromptCard::contentWidth();
+        const int upper = m_microphone->heightWithin(width);
+        const int lower = m_keys->heightWithin(width);
+        m_microphone->setGeometry(0, 0, width, upper);
+        m_keys->setGeometry(0, upper + kLineHeight, width, lower);
+        resize(width, upper + kLineHeight + lower);
     }
 
 protected:

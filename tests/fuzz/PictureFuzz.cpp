@@ -59,7 +59,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string file(lumo::fuzz::textOf(data, size));
     if (file.starts_with(kPngSignature)) signChunks(file);
     const std::string path = folder.write("a.png", file);
-    const QImage picture = lumo::loadImageFile(path);
+    const QImage picture = lumo::decodedImage(lumo::imageFileBytes(path));
     expect(complaints == 0);
     if (picture.isNull()) return 0;
     expect(picture.format() == QImage::Format_ARGB32_Premultiplied);

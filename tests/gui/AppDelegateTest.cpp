@@ -53,6 +53,14 @@ TEST_F(Delegate, TheWindowStandsInTheMiddleOfTheScreenOrAtItsCornerWhenTheScreen
     EXPECT_NEAR(place.top(), screen.top() + std::max(0, (screen.height() - 760) / 2), 1);
 }
 
+TEST_F(Delegate, TheWindowComesBackFromTheDockWhenTheProgramIsStartedOnceMore) {
+    QMainWindow& window = launch();
+    window.showMinimized();
+    delegate.applicationShouldHandleReopen();
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_TRUE(window.isVisible());
+}
+
 TEST_F(Delegate, LaunchingBringsTheDeviceLinkToLife) {
     EXPECT_TRUE(platform.ioQueueLabel.empty());
     launch();

@@ -23,12 +23,14 @@ void AssetFixture::paint(const QString& path, const QColor& color, QSize size) {
 }
 
 QColor AssetFixture::colorOf(std::string_view name) {
-    const QImage* const image = assets.image(name);
+    const auto image = assets.image(name);
     return image ? image->pixelColor(0, 0) : QColor();
 }
 
 bool AssetFixture::check(const std::string& path) {
+    const std::lock_guard lock(m_lookedAt);
     checks.push_back(path);
+    threads.insert(std::this_thread::get_id());
     return QFileInfo::exists(QString::fromStdString(path));
 }
 

@@ -6,7 +6,10 @@
 #include <QColor>
 #include <QDir>
 #include <QTemporaryDir>
+#include <mutex>
+#include <set>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "app/AssetManager.h"
@@ -25,8 +28,9 @@ protected:
 
     const QString resources = m_root + "/resources";
     const QString workingCopy = m_root + "/copy";
-    FakeBundle bundle;                // has the resources unless a test takes them away
-    std::vector<std::string> checks;  // the paths where the manager looked for a file, in order
+    FakeBundle bundle;                  // has the resources unless a test takes them away
+    std::vector<std::string> checks;    // the paths where the manager looked for a file, in order
+    std::set<std::thread::id> threads;  // that looked
     AssetManager assets{bundle, [this](const std::string& path) { return check(path); }};
 
     /// Puts a file there; folders are made as needed.
@@ -38,6 +42,8 @@ protected:
     [[nodiscard]] QColor colorOf(std::string_view name);
 
 private:
+    std::mutex m_lookedAt;  // may be looked at by two threads
+
     bool check(const std::string& path);
 
     CurrentFolder m_current{makeFolder(workingCopy)};

@@ -48,9 +48,35 @@ TEST_F(Assets, ANameFoundNowhereIsSearchedForAtEveryCall) {
     EXPECT_EQ(colorOf("set/a.png"), QColor(Qt::red));
 }
 
+TEST_F(Assets, APictureThatIsReadAheadIsFoundAsOthersAre) {
+    paint(places[13], Qt::red);
+    assets.readAhead({"set/a.png", "set/b.png"});
+    EXPECT_EQ(colorOf("set/a.png"), QColor(Qt::red));
+    EXPECT_EQ(assets.image("set/b.png"), nullptr);
+    paint(workingCopy + "/assets/set/b.png", Qt::blue);
+    EXPECT_EQ(colorOf("set/b.png"), QColor(Qt::blue)) << "what was not there is looked for again";
+}
+
+TEST_F(Assets, ReadingAheadIsAnotherThreadsWork) {
+    paint(places[13], Qt::red);
+    assets.readAhead({"set/a.png"});
+    const auto picture = assets.image("set/a.png");
+    ASSERT_NE(picture, nullptr);
+    ASSERT_FALSE(threads.empty());
+    EXPECT_FALSE(threads.contains(std::this_thread::get_id()));
+    EXPECT_EQ(assets.image("set/a.png"), picture);
+}
+
+TEST_F(Assets, NobodyWaitsForAPictureThatWasReadAheadForNothing) {
+    paint(places[13], Qt::red);
+    paint(workingCopy + "/assets/set/b.png", Qt::blue);
+    assets.readAhead({"set/a.png"});
+    EXPECT_EQ(colorOf("set/b.png"), QColor(Qt::blue));
+}
+
 TEST_F(Assets, APictureOnceFoundCostsNoLookAtTheDisk) {
     paint(places[13], Qt::red);
-    const QImage* const first = assets.image("set/a.png");
+    const auto first = assets.image("set/a.png");
     ASSERT_NE(first, nullptr);
     bundle.timesAsked = 0;
     checks.clear();
@@ -68,9 +94,34 @@ TEST_F(Assets, APictureOnceFoundOutlivesItsFile) {
 
 TEST_F(Assets, APictureKeepsItsAddressWhileOthersCome) {
     paint(places[0], Qt::red);
-    const QImage* const first = assets.image("set/a.png");
+    const auto first = assets.image("set/a.png");
     for (int count = 1; count <= 200; ++count) (void)assets.image("set/a.png" + std::string(count, ' '));
     EXPECT_EQ(assets.image("set/a.png"), first);
+}
+
+TEST_F(Assets, ALargePicturesPixelsStayWithThoseWhoHoldThem) {
+    paint(places[0], Qt::red, {512, 512});
+    auto held = assets.image("set/a.png");
+    ASSERT_NE(held, nullptr);
+    EXPECT_EQ(assets.image("set/a.png"), held);
+    const std::weak_ptr<const QImage> pixels = held;
+    held.reset();
+    EXPECT_TRUE(pixels.expired());
+}
+
+TEST_F(Assets, ALargePictureThatNobodyHoldsStillOutlivesItsFile) {
+    paint(places[0], Qt::red, {512, 512});
+    EXPECT_EQ(colorOf("set/a.png"), QColor(Qt::red));
+    paint(places[0], Qt::blue, {512, 512});
+    checks.clear();
+    EXPECT_EQ(colorOf("set/a.png"), QColor(Qt::red));
+    EXPECT_TRUE(checks.empty());
+}
+
+TEST_F(Assets, ASmallPicturesPixelsStay) {
+    paint(places[0], Qt::red, {110, 110});
+    const std::weak_ptr<const QImage> pixels = assets.image("set/a.png");
+    EXPECT_FALSE(pixels.expired());
 }
 
 class AssetsAt : public Assets, public testing::WithParamInterface<std::size_t> {};
@@ -157,7 +208,7 @@ TEST_F(Assets, AnEmptyNameIsNoPicture) {
 
 TEST_F(Assets, ArtworkIsReadyToBePaintedAndKeepsItsColors) {
     paint(places[0], QColor(0xB9, 0xA3, 0xFF));
-    const QImage* const image = assets.image("set/a.png");
+    const auto image = assets.image("set/a.png");
     ASSERT_NE(image, nullptr);
     EXPECT_EQ(image->format(), QImage::Format_ARGB32_Premultiplied);
     EXPECT_EQ(image->pixelColor(1, 1), QColor(0xB9, 0xA3, 0xFF));

@@ -81,7 +81,7 @@ protected:
     /// The bad one comes first in the search, and the good one is found all the same.
     void expectSkipped() {
         paint(resources + "/skins/a.png", Qt::red);
-        const QImage* const found = onDisk.image("a.png");
+        const auto found = onDisk.image("a.png");
         ASSERT_NE(found, nullptr);
         EXPECT_EQ(found->pixelColor(0, 0), QColor(Qt::red));
     }

@@ -18,7 +18,7 @@ class ColorWheelFixture : public testing::Test {
 protected:
     VirtualTime time;
     QWidget page;
-    ColorWheel wheel{QImage(), time.mainQueue(), &page};
+    ColorWheel wheel{[] { return QImage(); }, time.mainQueue(), &page};
     std::vector<Color> reported;
 
     void SetUp() override {

@@ -63,7 +63,7 @@ TEST_F(WheelPicture, AMoveOfTheMarkerPaintsOnlyItsOldAndItsNewPlace) {
 TEST(WheelDisc, IsDrawnOncePerSize) {
     QImage artwork(800, 800, QImage::Format_ARGB32);
     artwork.fill(Qt::red);
-    for (WheelDisc disc : {WheelDisc(QImage()), WheelDisc(artwork)}) {
+    for (WheelDisc disc : {WheelDisc([] { return QImage(); }), WheelDisc([&] { return artwork; })}) {
         const qint64 first = disc.drawn(196).cacheKey();
         EXPECT_EQ(disc.drawn(196).cacheKey(), first);
         EXPECT_EQ(disc.drawn(392).width(), 392);
@@ -74,7 +74,7 @@ TEST(WheelDisc, IsDrawnOncePerSize) {
 TEST(WheelDisc, IsTheArtworkWhereThereIsOne) {
     QImage artwork(800, 800, QImage::Format_ARGB32);
     artwork.fill(QColor(10, 200, 30));
-    WheelDisc disc(artwork);
+    WheelDisc disc([&] { return artwork; });
     EXPECT_EQ(disc.drawn(200).pixelColor(100, 100), QColor(10, 200, 30));
 }
 

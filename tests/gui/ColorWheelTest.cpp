@@ -195,7 +195,7 @@ TEST_F(Wheel, ALostReleaseEndsTheDragAtTheNextMove) {
 }
 
 TEST_F(Wheel, ADestroyedWheelReportsNothingMore) {
-    auto other = std::make_unique<ColorWheel>(QImage(), time.mainQueue(), nullptr);
+    auto other = std::make_unique<ColorWheel>([] { return QImage(); }, time.mainQueue(), nullptr);
     QObject::connect(other.get(), &ColorWheel::picked, &page,
                      [this](const Color& color) { reported.push_back(color); });
     for (int i = 0; i < 3; ++i) QTest::keyPress(other.get(), Qt::Key_Up);

@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
     lumo::AssetManager assets(*bundle);
     int missing = 0;
     for (const auto& target : lumo::artwork::kExports) {
-        const QImage* const image = assets.image(lastComponent(target.file));
+        const auto image = assets.image(lastComponent(target.file));
         if (image && image->size() == QSize(target.width, target.height)) continue;
         std::printf("%.*s is not found.\n", static_cast<int>(target.file.size()), target.file.data());
         ++missing;

@@ -30,7 +30,7 @@ protected:
     std::vector<KeyCap> keys = defaultLayout();
     std::vector<KeyLook> looks = std::vector<KeyLook>(keys.size());
     QImage shipped = shippedPicture();
-    KeyboardPicture picture{keys, shipped};
+    KeyboardPicture picture{keys, [this] { return shipped; }};
 
     KeyLook& look(std::string_view label) { return looks[indexOf(label)]; }
 
@@ -74,7 +74,7 @@ protected:
     QImage painted(double scale = 1.0) { return painted(picture, scale); }
 
     QImage paintedAnew(double scale) {
-        KeyboardPicture fresh(keys, shipped);
+        KeyboardPicture fresh(keys, [this] { return shipped; });
         return painted(fresh, scale);
     }
 

@@ -83,9 +83,30 @@ TEST_F(KeyboardPictureTest, NeverLeavesTheRangeOfAByte) {
 TEST_F(KeyboardPictureTest, NeverLeavesTheRangeOfAByteOverAnyPicture) {
     QImage white(1300, 494, QImage::Format_ARGB32);
     white.fill(Qt::white);
-    KeyboardPicture overWhite(keys, white);
+    KeyboardPicture overWhite(keys, [&] { return white; });
     lightAll({1.0, 1.0, 1.0}, 1.0);
     EXPECT_EQ(painted(overWhite, 1.0).pixel(300, 66), 0xFFFFFFFF);
+}
+
+TEST_F(KeyboardPictureTest, IsTheSameWhenItsKeysAreDrawnAhead) {
+    light(4, 1.0);
+    for (const double scale : {1.0, 1.25, 2.0}) {
+        KeyboardPicture ahead(keys, [this] { return shipped; });
+        ahead.drawAhead(scale);
+        EXPECT_EQ(painted(ahead, scale), paintedAnew(scale)) << scale;
+    }
+}
+
+TEST_F(KeyboardPictureTest, IsTheSameWhenItsKeysWereDrawnAheadForAnotherScreen) {
+    light(4, 1.0);
+    KeyboardPicture ahead(keys, [this] { return shipped; });
+    ahead.drawAhead(2.0);
+    EXPECT_EQ(painted(ahead, 1.0), paintedAnew(1.0));
+    EXPECT_EQ(painted(ahead, 2.0), paintedAnew(2.0));
+}
+
+TEST_F(KeyboardPictureTest, CanGoWhileItsKeysAreDrawn) {
+    for (int time = 0; time < 3; ++time) KeyboardPicture(keys, [this] { return shipped; }).drawAhead(1.0);
 }
 
 TEST_F(KeyboardPictureTest, LetsLightOutBelowTheCaseAndHardlyAboveIt) {
@@ -208,7 +229,7 @@ TEST_F(KeyboardPictureTest, LetsNoLightOnTheCornerBlock) {
 }
 
 TEST_F(KeyboardPictureTest, ShowsAllCapsWithLegendsWithoutItsFile) {
-    KeyboardPicture drawn(keys, QImage());
+    KeyboardPicture drawn(keys, [] { return QImage(); });
     light(1, 0.0);
     const QImage image = painted(drawn, 2.0);
     EXPECT_LE(averageDifference(image, painted(2.0), image.rect()), 2.0);

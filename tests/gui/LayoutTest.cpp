@@ -176,7 +176,11 @@ TEST_F(Layout, ThePaletteIsLowInTheSmallestWindow) {
 
 TEST_F(Layout, NoTextIsElidedInTheSmallestWindow) {
     show({900, 680});
-    for (Popup* const popup : view->findChildren<Popup*>()) popup->setShown(true);
+    PermissionManager& permissions = objects.permissionManager();
+    permissions.showFirstLaunchPopup.set(true);
+    permissions.showRecheckPopup.set(true);
+    time.advance(Duration{0});
+    ASSERT_EQ(view->findChildren<Popup*>().size(), 2);
     only<PermissionToast>().setShown(true);
     for (const TextLine* const line : view->findChildren<TextLine*>()) {
         EXPECT_FALSE(line->isElided()) << line->text().toStdString();

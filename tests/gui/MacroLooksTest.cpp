@@ -17,7 +17,7 @@ namespace lumo {
 namespace {
 
 void paintAsset(QImage& picture, const QRectF& frame, std::string_view name) {
-    const QImage* const asset = AssetManager::shared().image(name);
+    const auto asset = AssetManager::shared().image(name);
     ASSERT_NE(asset, nullptr) << name;
     QPainter painter(&picture);
     paintPicture(painter, frame, *asset);
@@ -135,7 +135,7 @@ class StepRowPictures : public test::LinkFixture {
 protected:
     StepRowPictures() { platform.resources.directory = LUMO_ASSETS_FOLDER; }
 
-    static constexpr QSize kSize{348, StepRow::kHeight};
+    static constexpr QSize kSize{348, 34};
 
     static QImage empty() {
         QImage picture(kSize, QImage::Format_ARGB32_Premultiplied);

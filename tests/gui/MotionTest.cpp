@@ -9,6 +9,7 @@
 #include "controls/Fade.h"
 #include "gui/SettingsPortal.h"
 #include "platform/qt/MotionPreference.h"
+#include "platform/qt/SessionBus.h"
 
 namespace lumo {
 namespace {
@@ -188,21 +189,21 @@ protected:
 TEST_F(SessionBus, IsTheOneTheSessionNames) {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/somewhere");
     qputenv("XDG_RUNTIME_DIR", "/nonexistent");
-    EXPECT_TRUE(MotionPreference::hasSessionBus());
+    EXPECT_TRUE(hasSessionBus());
 }
 
 TEST_F(SessionBus, IsTheOneInTheUsersFolderOtherwise) {
     const QTemporaryDir runtime;
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
-    EXPECT_FALSE(MotionPreference::hasSessionBus());
+    EXPECT_FALSE(hasSessionBus());
     ASSERT_TRUE(QFile(runtime.filePath("bus")).open(QFile::WriteOnly));
-    EXPECT_TRUE(MotionPreference::hasSessionBus());
+    EXPECT_TRUE(hasSessionBus());
 }
 
 TEST_F(SessionBus, IsNeverStarted) {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "autolaunch:");
-    EXPECT_FALSE(MotionPreference::hasSessionBus());
+    EXPECT_FALSE(hasSessionBus());
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ protected:
         for (const KeyCap& key : keyboard().keys.get()) {
             looks.push_back({LightingEngine::color(key, mode, moment, base, brightness, speed)});
         }
-        KeyboardPicture picture(keyboard().keys.get(), QImage());
+        KeyboardPicture picture(keyboard().keys.get(), [] { return QImage(); });
         picture.compose(looks);
         QImage image(canvas.size(), QImage::Format_RGB32);
         QPainter painter(&image);

@@ -16,6 +16,14 @@ Popup& PromptFixture::popup(const QString& heading) const {
     throw std::invalid_argument("no popup " + heading.toStdString());
 }
 
+std::vector<QString> PromptFixture::popupsInSight() const {
+    std::vector<QString> headings;
+    for (const Popup* const each : view->findChildren<Popup*>()) {
+        if (each->isVisible()) headings.push_back(each->accessibleName());
+    }
+    return headings;
+}
+
 PermissionToast& PromptFixture::toast() const { return only<PermissionToast>(); }
 
 void PromptFixture::activate() {

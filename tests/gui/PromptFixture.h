@@ -36,6 +36,8 @@ protected:
     [[nodiscard]] Popup& welcome() const { return popup("Welcome to Vexa Lumo 65"); }
     [[nodiscard]] Popup& recheck() const { return popup("Permissions Setup Needed"); }
     [[nodiscard]] PermissionToast& toast() const;
+    /// The headings of the popups that are to be seen.
+    [[nodiscard]] std::vector<QString> popupsInSight() const;
 
     /// Clicks the button of that name with the mouse, and lets the turn pass.
     void click(const QString& name);

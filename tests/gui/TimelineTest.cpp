@@ -319,13 +319,13 @@ protected:
     static int paintedIconPixels(bool isDown) {
         StepRow row;
         row.layOut(348, 1);
-        QImage picture(348, StepRow::kHeight, QImage::Format_ARGB32_Premultiplied);
+        QImage picture(348, StepRow::rowHeight(), QImage::Format_ARGB32_Premultiplied);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         row.paint(painter, 0, {{}, 87, isDown, 25}, {});
         painter.end();
         int painted = 0;
-        for (int y = 0; y < StepRow::kHeight; ++y) {
+        for (int y = 0; y < StepRow::rowHeight(); ++y) {
             for (int x = 34; x < 52; ++x) painted += picture.pixelColor(x, y).alpha() > 100 ? 1 : 0;
         }
         return painted;

@@ -1,6 +1,7 @@
 // Resources that a test sets; none at first, as in a build tree.
 #pragma once
 
+#include <atomic>
 #include <map>
 #include <optional>
 #include <string>
@@ -13,7 +14,7 @@ class FakeBundle final : public Bundle {
 public:
     std::map<std::string, std::string, std::less<>> paths;  // by the resource's name
     std::optional<std::string> directory;
-    mutable int timesAsked = 0;
+    mutable std::atomic<int> timesAsked = 0;  // by any thread
 
     [[nodiscard]] std::optional<std::string> pathForResource(std::string_view name) const override {
         ++timesAsked;

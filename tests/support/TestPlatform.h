@@ -14,6 +14,8 @@ namespace lumo::test {
 /// Outlives the SharedObjects made from it. Plug the keyboard in before or after they exist.
 class TestPlatform final : public FakedPlatform {
 public:
+    TestPlatform() { firmware.recordWrites(); }
+
     VirtualTime time;
     vk::FirmwareModel firmware;
     vk::ReportLog log;

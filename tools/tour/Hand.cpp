@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <functional>
 
+#include "controls/ScrollBox.h"
+
 namespace lumo::tour {
 namespace {
 
@@ -27,6 +29,13 @@ bool isText(const QAccessibleInterface& element) { return element.role() == QAcc
 
 QString nameOf(const QAccessibleInterface& element) { return element.text(QAccessible::Name); }
 
+/// As a user scrolls to what does not show.
+void bringIntoView(const QAccessibleInterface& element) {
+    if (const auto* const widget = qobject_cast<const QWidget*>(element.object())) {
+        ScrollBox::bringIntoView(*widget, widget->rect());
+    }
+}
+
 }  // namespace
 
 QRect Hand::place(const QString& name) const {
@@ -37,6 +46,7 @@ QRect Hand::place(const QString& name) const {
         std::fprintf(stderr, "The tour finds nothing named \"%s\".\n", qUtf8Printable(name));
         std::exit(EXIT_FAILURE);
     }
+    bringIntoView(*found);
     return found->rect().translated(-m_window.mapToGlobal(QPoint()));
 }
 

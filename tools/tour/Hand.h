@@ -31,7 +31,7 @@ public:
     [[nodiscard]] int count(const QString& name) const;
     /// The name of what has the keyboard.
     [[nodiscard]] QString focused() const;
-    /// In the window's coordinates.
+    /// In the window's coordinates, scrolled into view.
     [[nodiscard]] QRect place(const QString& name) const;
 
 private:

@@ -21,7 +21,7 @@ void addStream(Tour& tour, Hand& hand) {
     tour.then(
         "the gain is raised",
         [&hand] {
-            hand.drag("GAIN FACTOR", {90, 10}, {300, 0});
+            hand.drag("GAIN FACTOR", {90, 10}, {380, 0});
         },
         [&hand] { return hand.reads("5.0x"); });
     tour.picture("42-music-allowed.png");

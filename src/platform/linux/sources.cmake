@@ -3,6 +3,7 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(LUMO_UDEV REQUIRED IMPORTED_TARGET GLOBAL libudev)
 target_sources(lumo_platform PRIVATE
     platform/linux/FeatureReportSize.cpp
+    platform/linux/FreedMemory.cpp
     platform/linux/HidrawDevice.cpp
     platform/linux/HidrawInterface.cpp
     platform/linux/IoThread.cpp

@@ -13,6 +13,7 @@ set(lumo_objective_c
 )
 target_sources(lumo_platform PRIVATE
     ${lumo_macos}/EventAccess.cpp
+    ${lumo_macos}/FreedMemory.cpp
     ${lumo_macos}/IoKitHidDevice.cpp
     ${lumo_macos}/IoKitHidManager.cpp
     ${lumo_macos}/IoThread.cpp

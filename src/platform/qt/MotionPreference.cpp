@@ -3,7 +3,6 @@
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QFile>
 #include <QMap>
 #include <utility>
 
@@ -27,12 +26,6 @@ Settings settingsOf(const QDBusMessage& answer) {
 bool isFalse(const QVariant& value) { return value.typeId() == QMetaType::Bool && !value.toBool(); }
 
 }  // namespace
-
-bool MotionPreference::hasSessionBus() {
-    const QString named = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
-    if (!named.isEmpty()) return !named.startsWith("autolaunch:");
-    return QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/bus");
-}
 
 MotionPreference::MotionPreference(Connect connectToBus, QObject* parent)
     : QObject(parent), m_connecting(QThread::create([this, connect = std::move(connectToBus)] { listen(connect()); })) {

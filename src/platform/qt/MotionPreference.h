@@ -18,9 +18,6 @@ class MotionPreference final : public QObject {
 public:
     using Connect = std::function<QDBusConnection()>;
 
-    /// True when one runs already: asking for a session bus where there is none might start one.
-    [[nodiscard]] static bool hasSessionBus();
-
     explicit MotionPreference(Connect connectToBus, QObject* parent = nullptr);
     MotionPreference(const MotionPreference&) = delete;
     MotionPreference& operator=(const MotionPreference&) = delete;

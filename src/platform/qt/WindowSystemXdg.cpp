@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "platform/qt/MotionPreference.h"
+#include "platform/qt/SessionBus.h"
 #include "platform/qt/WindowSystem.h"
 
 namespace lumo::window_system {
@@ -17,7 +18,7 @@ void dressWindow(QWidget&) {}
 void installMenu(QWidget& window, QAction& quit) { window.addAction(&quit); }
 
 void followMotionPreference() {
-    if (MotionPreference::hasSessionBus()) new MotionPreference(&QDBusConnection::sessionBus, qApp);
+    if (hasSessionBus()) new MotionPreference(&QDBusConnection::sessionBus, qApp);
 }
 
 bool prefersReducedMotion() { return MotionPreference::currentIsReduced(); }

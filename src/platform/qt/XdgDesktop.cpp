@@ -4,6 +4,7 @@
 #include <QProcess>
 
 #include "platform/NativeDesktop.h"
+#include "platform/qt/OneInstance.h"
 
 namespace lumo {
 namespace {
@@ -22,6 +23,7 @@ private:
 }  // namespace
 
 void XdgDesktop::openThisApplication(Task completed) {
+    one_instance::letGo();
     // Its own session: what ends this program, or the terminal it came from, does not end the new one.
     QProcess::startDetached(m_executable.isEmpty() ? QCoreApplication::applicationFilePath() : m_executable, {});
     completed();

@@ -8,6 +8,7 @@ set(lumo_apple_sources
     ${PROJECT_SOURCE_DIR}/src/app/HeaderBar.cpp
     ${PROJECT_SOURCE_DIR}/src/controls/ColorWheel.cpp
     ${PROJECT_SOURCE_DIR}/src/controls/Lettering.cpp
+    ${PROJECT_SOURCE_DIR}/src/controls/TextScale.cpp
     ${PROJECT_SOURCE_DIR}/src/controls/Theme.cpp
     ${PROJECT_SOURCE_DIR}/src/keyboard/KeyboardCanvas.cpp
     ${PROJECT_SOURCE_DIR}/src/platform/qt/NativePlatform.cpp
