@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "keyboard/WidestVectors.h"
+
 namespace lumo::pixels {
 namespace {
 
@@ -97,12 +99,12 @@ void overlay(std::uint8_t* __restrict out, const std::uint8_t* __restrict add, c
 
 }  // namespace
 
-void paintCap(const Part& part, const CapPlanes& cap, const CapLight& light) {
+LUMO_WIDEST void paintCap(const Part& part, const CapPlanes& cap, const CapLight& light) {
     const CapPainter painter{cap, repeated<kBlockLanes>(light.color), light.glow};
     for (int y = part.top; y < part.bottom; ++y) painter.paintRow(part.out + y * part.stride, y, part.left, part.right);
 }
 
-void blendColor(const Part& part, const std::uint8_t* mask, std::size_t blocks, const Pixel& color) {
+LUMO_WIDEST void blendColor(const Part& part, const std::uint8_t* mask, std::size_t blocks, const Pixel& color) {
     const auto lanes = repeated<kBlockLanes>(color);
     for (int y = part.top; y < part.bottom; ++y) {
         const std::size_t first = static_cast<std::size_t>(y) * blocks + static_cast<std::size_t>(part.left);
@@ -112,7 +114,7 @@ void blendColor(const Part& part, const std::uint8_t* mask, std::size_t blocks, 
     }
 }
 
-void layOver(const Part& part, std::span<const OverlayBlock> blocks) {
+LUMO_WIDEST void layOver(const Part& part, std::span<const OverlayBlock> blocks) {
     for (const OverlayBlock& each : blocks) {
         if (each.row < part.top || each.row >= part.bottom || each.block < part.left || each.block >= part.right) {
             continue;

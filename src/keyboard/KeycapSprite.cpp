@@ -67,8 +67,14 @@ void KeycapSprite::store(std::size_t firstLane, const KeycapPixel& pixel) {
 
 /// Light of the key's colour around the legend, strongest in the middle.
 void KeycapSprite::addHalo(const QPointF& centre, double radius) {
-    m_haloed = m_plain;
-    for (int y = 0; y < m_size.height(); ++y) {
+    m_haloRows.first = std::max(static_cast<int>(centre.y() - radius), 0);
+    m_haloRows.end = std::min(static_cast<int>(centre.y() + radius) + 1, m_size.height());
+    const auto rowsOf = [this](const std::vector<Lane>& plane) {
+        return std::vector<Lane>(plane.begin() + m_haloRows.first * rowLanes(),
+                                 plane.begin() + m_haloRows.end * rowLanes());
+    };
+    m_haloed = {rowsOf(m_plain.perColor), rowsOf(m_plain.perGlow)};
+    for (int y = m_haloRows.first; y < m_haloRows.end; ++y) {
         for (int x = 0; x < m_blocks * pixels::kBlockPixels; ++x) {
             const QPointF away = QPointF(x + 0.5, y + 0.5) - centre;
             const double distance = std::sqrt(QPointF::dotProduct(away, away));
@@ -78,12 +84,13 @@ void KeycapSprite::addHalo(const QPointF& centre, double radius) {
 }
 
 void KeycapSprite::addHaloAt(int x, int y, int share) {
-    const auto first = static_cast<std::size_t>(y * m_blocks * pixels::kBlockPixels + x) * 4;
+    const auto first = static_cast<std::size_t>(y * rowLanes() + x * 4);
+    const auto skipped = static_cast<std::size_t>(m_haloRows.first * rowLanes());
     for (std::size_t lane = first; lane < first + 3; ++lane) {  // opacity stays
         const int perColor = m_plain.perColor[lane];
         const int perGlow = m_plain.perGlow[lane];
-        m_haloed.perColor[lane] = static_cast<Lane>(perColor + (((65536 - perColor) * share) >> 16));
-        m_haloed.perGlow[lane] = static_cast<Lane>(perGlow - (((perGlow + 2 * m_unlit[lane]) * share) >> 16));
+        m_haloed.perColor[lane - skipped] = static_cast<Lane>(perColor + (((65536 - perColor) * share) >> 16));
+        m_haloed.perGlow[lane - skipped] = static_cast<Lane>(perGlow - (((perGlow + 2 * m_unlit[lane]) * share) >> 16));
     }
 }
 
@@ -115,12 +122,19 @@ bool KeycapSprite::isOpaque(int block) const {
     return std::all_of(keep, keep + kBlockLanes, [](Share share) { return share == 0; });
 }
 
+/// Both blocks are of one row.
 bool KeycapSprite::areAlike(int one, int other) const {
-    const auto alike = [=](const auto& plane) {
-        const auto* const first = plane.data() + static_cast<std::size_t>(one) * kBlockLanes;
-        return std::equal(first, first + kBlockLanes, plane.data() + static_cast<std::size_t>(other) * kBlockLanes);
+    const auto alike = [=](const auto& plane, int skipped) {
+        const auto* const first = plane.data() + static_cast<std::size_t>(one - skipped) * kBlockLanes;
+        return std::equal(first, first + kBlockLanes,
+                          plane.data() + static_cast<std::size_t>(other - skipped) * kBlockLanes);
     };
-    return alike(m_unlit) && alike(m_haloed.perColor) && alike(m_haloed.perGlow);
+    const auto alikeIn = [&](const Tint& tint, int skipped) {
+        return alike(tint.perColor, skipped) && alike(tint.perGlow, skipped);
+    };
+    const int row = one / m_blocks;
+    const bool isInHalo = row >= m_haloRows.first && row < m_haloRows.end;
+    return alike(m_unlit, 0) && alikeIn(m_plain, 0) && (!isInHalo || alikeIn(m_haloed, m_haloRows.first * m_blocks));
 }
 
 KeycapSprite::Opaque KeycapSprite::opaque(int row) const {
@@ -135,13 +149,27 @@ KeycapSprite::Opaque KeycapSprite::opaque(int row) const {
 }
 
 void KeycapSprite::paint(const pixels::Part& part, const KeyShade& shade) const {
-    const Tint& tint = shade.strength() > kHaloFrom ? m_haloed : m_plain;
     const auto lit = [&](int level) { return static_cast<Lane>(level * shade.glow * pixels::kCapLevel / 255); };
-    pixels::paintCap(
-        part,
-        {static_cast<std::size_t>(m_blocks), m_bodies.data(), m_unlit.data(), tint.perColor.data(), tint.perGlow.data(),
-         m_keep.data()},
-        {{lit(shade.color.b), lit(shade.color.g), lit(shade.color.r), 0}, static_cast<Lane>(shade.glow * 32767 / 255)});
+    const pixels::CapLight light{{lit(shade.color.b), lit(shade.color.g), lit(shade.color.r), 0},
+                                 static_cast<Lane>(shade.glow * 32767 / 255)};
+    if (shade.strength() <= kHaloFrom) return paintRows(part, {0, m_size.height()}, m_plain, 0, light);
+    paintRows(part, {0, m_haloRows.first}, m_plain, 0, light);
+    paintRows(part, m_haloRows, m_haloed, m_haloRows.first, light);
+    paintRows(part, {m_haloRows.end, m_size.height()}, m_plain, 0, light);
+}
+
+/// `tint` begins with the row `tinted`.
+void KeycapSprite::paintRows(pixels::Part part, const Rows& rows, const Tint& tint, int tinted,
+                             const pixels::CapLight& light) const {
+    const auto lanes = [this](const auto& plane, int row) { return plane.data() + row * rowLanes(); };
+    part.out += rows.first * part.stride;
+    part.top = std::max(part.top, rows.first) - rows.first;
+    part.bottom = std::min(part.bottom, rows.end) - rows.first;
+    pixels::paintCap(part,
+                     {static_cast<std::size_t>(m_blocks), m_bodies.data() + rows.first, lanes(m_unlit, rows.first),
+                      lanes(tint.perColor, rows.first - tinted), lanes(tint.perGlow, rows.first - tinted),
+                      lanes(m_keep, rows.first)},
+                     light);
 }
 
 }  // namespace lumo

@@ -33,7 +33,14 @@ private:
         std::vector<pixels::Lane> perColor;
         std::vector<pixels::Lane> perGlow;
     };
+    struct Rows {
+        int first = 0;
+        int end = 0;
+    };
 
+    [[nodiscard]] std::ptrdiff_t rowLanes() const {
+        return std::ptrdiff_t{m_blocks} * std::ptrdiff_t{pixels::kBlockLanes};
+    }
     void draw(const KeycapRecipe& recipe, double scale);
     void store(std::size_t firstLane, const KeycapPixel& pixel);
     void addHalo(const QPointF& centre, double radius);
@@ -42,13 +49,16 @@ private:
     void findEvenRun(int start, pixels::CapPlanes::Body& body) const;
     [[nodiscard]] bool isOpaque(int block) const;
     [[nodiscard]] bool areAlike(int one, int other) const;
+    void paintRows(pixels::Part part, const Rows& rows, const Tint& tint, int tinted,
+                   const pixels::CapLight& light) const;
 
     QSize m_size;      // pixels
     int m_blocks = 0;  // in a row
     std::vector<pixels::Lane> m_unlit;
     std::vector<pixels::Share> m_keep;
     Tint m_plain;
-    Tint m_haloed;
+    Rows m_haloRows;
+    Tint m_haloed;  // of those rows
     std::vector<pixels::CapPlanes::Body> m_bodies;
 };
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "keyboard/WidestVectors.h"
+
 namespace lumo::pixels {
 namespace {
 
@@ -70,7 +72,8 @@ void spreadRun(Lane* __restrict out, const Lane* __restrict cells, const std::ui
 
 }  // namespace
 
-void addWeighted(Share* __restrict sum, const Share* __restrict weights, std::size_t cells, const Shares& light) {
+LUMO_WIDEST void addWeighted(Share* __restrict sum, const Share* __restrict weights, std::size_t cells,
+                             const Shares& light) {
     const auto lanes = repeated<kPairLanes>(light);
     for (std::size_t at = 0; at < cells * kCellLanes; at += kPairLanes) {
         for (std::size_t i = 0; i < kPairLanes; ++i) {
@@ -79,8 +82,8 @@ void addWeighted(Share* __restrict sum, const Share* __restrict weights, std::si
     }
 }
 
-void mixRows(Share* __restrict out, const Share* __restrict upper, const Share* __restrict lower, unsigned quarters,
-             std::size_t cells) {
+LUMO_WIDEST void mixRows(Share* __restrict out, const Share* __restrict upper, const Share* __restrict lower,
+                         unsigned quarters, std::size_t cells) {
     const auto top = static_cast<Share>(quarters);
     const auto bottom = static_cast<Share>(4 - quarters);
     for (std::size_t i = 0; i < cells * kCellLanes; ++i) {
@@ -88,7 +91,7 @@ void mixRows(Share* __restrict out, const Share* __restrict upper, const Share* 
     }
 }
 
-void doubleCells(Share* __restrict out, const Share* __restrict row, std::size_t cells) {
+LUMO_WIDEST void doubleCells(Share* __restrict out, const Share* __restrict row, std::size_t cells) {
     for (std::size_t cell = 0; cell < cells; ++cell, out += kPairLanes, row += kCellLanes) {
         const Share* const left = row - kCellLanes;
         const Share* const right = row + kCellLanes;
@@ -97,22 +100,22 @@ void doubleCells(Share* __restrict out, const Share* __restrict row, std::size_t
     }
 }
 
-void repeatCover(Share* __restrict out, const Share* __restrict cells, std::size_t count) {
+LUMO_WIDEST void repeatCover(Share* __restrict out, const Share* __restrict cells, std::size_t count) {
     for (std::size_t cell = 0; cell < count; ++cell, out += kCellLanes, cells += kCellLanes) {
         const Share cover = cells[3];
         for (std::size_t i = 0; i < kCellLanes; ++i) out[i] = cover;
     }
 }
 
-void layUnder(Share* __restrict upper, const Share* __restrict lower, const Share* __restrict cover,
-              std::size_t cells) {
+LUMO_WIDEST void layUnder(Share* __restrict upper, const Share* __restrict lower, const Share* __restrict cover,
+                          std::size_t cells) {
     for (std::size_t i = 0; i < cells * kCellLanes; ++i) {
         upper[i] = static_cast<Share>(upper[i] + high(lower[i], static_cast<Share>(kWhole - cover[i])));
     }
 }
 
-void changeGround(Lane* __restrict out, const Share* __restrict light, const Share* __restrict cover,
-                  const Pixel& ground, std::size_t cells) {
+LUMO_WIDEST void changeGround(Lane* __restrict out, const Share* __restrict light, const Share* __restrict cover,
+                              const Pixel& ground, std::size_t cells) {
     const auto shares = repeated<kPairLanes>(groundShares(ground));
     for (std::size_t at = 0; at < cells * kCellLanes; at += kPairLanes) {
         for (std::size_t i = 0; i < kPairLanes; ++i) {
@@ -121,7 +124,7 @@ void changeGround(Lane* __restrict out, const Share* __restrict light, const Sha
     }
 }
 
-void spreadCells(Lane* out, const Lane* cells, CellSteps steps, std::span<const Run> runs) {
+LUMO_WIDEST void spreadCells(Lane* out, const Lane* cells, CellSteps steps, std::span<const Run> runs) {
     for (const Run& run : runs) {
         const std::size_t pixel = static_cast<std::size_t>(run.first) * kBlockPixels;
         spreadRun(out + pixel * 4, cells, steps.cell + pixel, steps.left + pixel * 4, steps.right + pixel * 4,
@@ -129,7 +132,7 @@ void spreadCells(Lane* out, const Lane* cells, CellSteps steps, std::span<const 
     }
 }
 
-void addLight(const LightTarget& target, const LightRows& light, std::span<const Run> runs) {
+LUMO_WIDEST void addLight(const LightTarget& target, const LightRows& light, std::span<const Run> runs) {
     for (const Run& run : runs) {
         const auto [first, lanes] = clip(run, target);
         if (lanes == 0) continue;
@@ -138,7 +141,8 @@ void addLight(const LightTarget& target, const LightRows& light, std::span<const
     }
 }
 
-void addMaskedLight(const LightTarget& target, const LightRows& light, std::span<const Run> runs, const Lane* masks) {
+LUMO_WIDEST void addMaskedLight(const LightTarget& target, const LightRows& light, std::span<const Run> runs,
+                                const Lane* masks) {
     for (const Run& run : runs) {
         const auto [first, lanes] = clip(run, target);
         if (lanes == 0) continue;
