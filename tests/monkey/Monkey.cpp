@@ -62,8 +62,13 @@ void Monkey::comeHome() {
     state.compiledMacroHex.set("");
 }
 
+QSize Monkey::room() const {
+    // While the system has still to grant a new size, widget and window are of two minds.
+    return m_window.size().boundedTo(m_window.windowHandle()->size());
+}
+
 QPoint Monkey::somewhere() {
-    return {m_chance.between(0, m_window.width() - 1), m_chance.between(0, m_window.height() - 1)};
+    return {m_chance.between(0, room().width() - 1), m_chance.between(0, room().height() - 1)};
 }
 
 bool Monkey::mayPress(QPoint at) const { return !endsProgram(m_window.childAt(at)); }
@@ -89,7 +94,7 @@ void Monkey::drag() {
     QTest::mousePress(window, Qt::LeftButton, {}, at);
     for (int steps = m_chance.between(1, 12); steps > 0; --steps) {
         at += {m_chance.between(-kLongestDrag, kLongestDrag) / 4, m_chance.between(-kLongestDrag, kLongestDrag) / 4};
-        at = {std::clamp(at.x(), 0, m_window.width() - 1), std::clamp(at.y(), 0, m_window.height() - 1)};
+        at = {std::clamp(at.x(), 0, room().width() - 1), std::clamp(at.y(), 0, room().height() - 1)};
         QTest::mouseMove(window, at);
     }
     QTest::mouseRelease(window, Qt::LeftButton, {}, at);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPoint>
+#include <QSize>
 #include <cstdint>
 
 #include "demo/DemoPlatform.h"
@@ -41,6 +42,7 @@ private:
     /// The program has one menu, and all that it holds is Quit.
     static void leaveMenu(QWidget& menu);
 
+    [[nodiscard]] QSize room() const;
     [[nodiscard]] QPoint somewhere();
     /// False where a press would end the program.
     [[nodiscard]] bool mayPress(QPoint at) const;

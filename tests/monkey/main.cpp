@@ -44,7 +44,7 @@ public:
     Visit(QMainWindow& window, vk::DemoPlatform& platform, const SeededRun& run)
         : m_run(run), m_monkey(window, platform, run.seed) {
         QObject::connect(&m_turn, &QTimer::timeout, [this] { turn(); });
-        QObject::connect(&m_minute, &QTimer::timeout, [this] { endMinute(); });
+        QObject::connect(&m_minute, &QTimer::timeout, [this] { m_isMinuteOver = true; });
         QObject::connect(qApp, &QCoreApplication::aboutToQuit, [this] { expectOver(); });
         m_sinceBegin.start();
         m_turn.start(kActEveryMs);
@@ -53,6 +53,7 @@ public:
 
 private:
     void turn() {
+        if (m_isMinuteOver) return endMinute();
         if (m_sinceBegin.elapsed() < std::chrono::milliseconds(m_run.length).count()) return m_monkey.act();
         m_turn.stop();
         m_minute.stop();
@@ -61,10 +62,11 @@ private:
 
     /// All is as at first, and what goes later has gone, when the memory is looked at.
     void endMinute() {
+        m_isMinuteOver = false;
         m_turn.stop();
         m_monkey.comeHome();
         QTimer::singleShot(kRestMs, [this] {
-            m_lastMinute = residentMemory();
+            m_lastMinute = privateMemory();
             if (m_firstMinute == 0) m_firstMinute = m_lastMinute;
             std::printf("%lld s: %.1f MiB\n", m_sinceBegin.elapsed() / 1000, m_lastMinute / 1024 / 1024);
             std::fflush(stdout);
@@ -77,7 +79,7 @@ private:
         if (hasGrown) std::fprintf(stderr, "FAILED: more memory than after the first minute\n");
         if (complaints > 0) std::fprintf(stderr, "FAILED: %u complaints of Qt's\n", complaints.load());
         std::printf("%lu acts in %lld s, %.1f MiB\n", m_monkey.acts(), m_sinceBegin.elapsed() / 1000,
-                    residentMemory() / 1024 / 1024);
+                    privateMemory() / 1024 / 1024);
         std::fflush(stdout);
         m_isOver = true;
         QCoreApplication::exit(hasGrown || complaints > 0 || hasLostMemory() ? EXIT_FAILURE : EXIT_SUCCESS);
@@ -96,6 +98,7 @@ private:
     QElapsedTimer m_sinceBegin;
     double m_firstMinute = 0;
     double m_lastMinute = 0;
+    bool m_isMinuteOver = false;  // told in the middle of an act, perhaps
     bool m_isOver = false;
 };
 
