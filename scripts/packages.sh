@@ -27,6 +27,8 @@ packagesToTest() {
     local llvm gcc
     read -r llvm gcc <<<"$1"
     printf '%s\n' libgtest-dev libgmock-dev libbenchmark-dev libumockdev-dev umockdev xvfb xauth dbus
+    # The window as assistive technology sees it.
+    printf '%s\n' at-spi2-core gir1.2-glib-2.0 python3-gi python3
     # Static checks, fuzzing, and the compile check of the Apple code against both standard libraries.
     printf '%s\n' clang clang-tidy clang-format llvm "libclang-rt-$llvm-dev" "libc++-$llvm-dev" "libc++abi-$llvm-dev"
     if [ "$(dpkg --print-architecture)" = amd64 ]; then
@@ -43,6 +45,9 @@ packagesForKernel() {
 
 # Making the Debian packages, and what has an opinion about them.
 packagesForPackages() { printf '%s\n' dpkg-dev file gzip fakeroot lintian desktop-file-utils appstream man-db; }
+
+# Counting instructions.
+packagesToMeasure() { printf '%s\n' valgrind; }
 
 formulasToBuild() { printf '%s\n' cmake ninja pkg-config qt nlohmann-json; }
 

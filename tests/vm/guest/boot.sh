@@ -46,7 +46,7 @@ startDeviceManager() {
 copyFiles() {
     local pictures=$files/share/vexa-lumo-65
     mkdir -p $files/bin $pictures
-    cp "$lumoTests"/guest/*.py "$lumoTests"/../../packaging/linux/post{inst,rm} $files
+    cp "$lumoTests"/{guest,../assistive}/*.py "$lumoTests"/../../packaging/linux/post{inst,rm} $files
     cp "$lumoBuild"/bin/{vexa-lumo-65,lumo-{fault-matrix,uhid-keyboard,usbip-keyboard}} $files/bin
     cp -r "$lumoBuild/probe" $files
     cp -r "$lumoTests"/../../vexa_lumo_macos/assets/{*.png,skins} $pictures

@@ -4,6 +4,7 @@ import os
 import signal
 import time
 
+import deeds
 import stories
 import turns
 from checks import TryAgain
@@ -11,7 +12,6 @@ from checks import TryAgain
 LIMIT_MS = 100
 LIGHTING = ("set 8a", "get 8a", "set 0a", "set 84", "get 84", "set 04")
 COMMANDS = 200
-FALLBACK = "Connected (Simulation Fallback)"
 STOPPED_MS = 300
 
 
@@ -27,13 +27,13 @@ def tell(checks, window, application, keyboard, probe):
     keyboard.tell("fault set 82 hang once")
     stories.plug(checks, keyboard)
     keeps_turning("set 82", 1)
-    stories.reads(checks, window, FALLBACK)
+    deeds.reads(checks, window, stories.FALLBACK)
     stories.unplug(checks, keyboard)
     stories.disconnects(checks, window)
     keyboard.tell("fault get 82 hang once")
     stories.plug(checks, keyboard)
     keeps_turning("get 82", 3)
-    stories.reads(checks, window, FALLBACK)
+    deeds.reads(checks, window, stories.FALLBACK)
 
     # One command hangs at its last transfer, while others are queued; from then on all transfers hang.
     keyboard.tell("fault set any hang skip 3")
@@ -52,7 +52,7 @@ def stands_still(checks, window, application, probe):
     """What the probe measures without a keyboard, and that it would see a loop that stands still."""
     begin = time.monotonic()
     checks.check(f"the row \"{stories.STILL}\" can be chosen", window.choose(stories.STILL))
-    stories.reads(checks, window, f"Previewing {stories.STILL} (Simulated)")
+    deeds.reads(checks, window, f"Previewing {stories.STILL} (Simulated)")
     time.sleep(1)  # what is told of: the rows fade
     checks.note(f"painting the choice of an effect, {figures(probe.between(begin, time.monotonic()))}")
     begin = time.monotonic()

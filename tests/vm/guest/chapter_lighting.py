@@ -1,18 +1,20 @@
 """The lighting page: each key its own colour, then a level. Everything is found by its name and used by its action."""
 
+import deeds
 import expected
 import expected_keys
 import expected_levels
 import stories
 import uploads
+import wire
 from arrivals import Arrivals
 
 
 def tell(checks, window, application, keyboard):
     arrivals = Arrivals(keyboard)
     stories.plug(checks, keyboard)
-    stories.connects(checks, window, application, keyboard)
-    stories.handshake_is_one_pair(checks, arrivals.take(checks, 2))
+    deeds.connects(checks, window, application, keyboard)
+    wire.handshake_is_one_pair(checks, arrivals.take(checks, 2))
 
     def uploads_after(what, deed, colours, **before):
         uploads.follows(checks, window, arrivals, what, deed, colours, **before)
@@ -35,30 +37,30 @@ def chooses_the_keys_own_colours(checks, window, uploads_after):
     effect = "Self-define (Per-Key RGB)"
     uploads_after(f"the row \"{effect}\" can be chosen", lambda: window.choose(effect), expected_keys.VIOLET,
                   parameters=expected.PARAMETER_BLOCK_BEFORE)
-    stories.is_marked(checks, window, effect)
+    deeds.is_marked(checks, window, effect)
 
 
 def paints_a_group(checks, window, uploads_after):
     checks.check("the group \"WASD\" can be pressed", window.press("WASD"))
-    says(checks, window, "4 of 67 keys selected")
-    counts(checks, window, "Paint Selected (4)")
+    deeds.says(checks, window, "4 of 67 keys selected")
+    deeds.has_button(checks, window, "Paint Selected (4)")
     uploads_after("the swatch \"Pink\" can be pressed", lambda: window.press("Pink"), expected_keys.PINK_WASD)
 
 
 def paints_a_key(checks, window, uploads_after):
     uploads_after("the key \"Esc\" can be pressed", lambda: window.press_key("Esc"), expected_keys.PINK_WASD_AND_ESC)
-    says(checks, window, "Selected: Esc 0x1B • LED Index: 0")
+    deeds.says(checks, window, "Selected: Esc 0x1B • LED Index: 0")
     checks.eventually("\"Esc\" alone is selected", window.selected_keys, lambda keys: keys == ["Esc"])
 
 
 def fills_all(checks, window, uploads_after):
     uploads_after("the button \"Fill All\" can be pressed", lambda: window.press("Fill All"), expected_keys.PINK)
-    says(checks, window, "67 of 67 keys selected")
-    counts(checks, window, "Paint Selected (67)")
+    deeds.says(checks, window, "67 of 67 keys selected")
+    deeds.has_button(checks, window, "Paint Selected (67)")
 
 
 def chooses_raindrops(checks, window, arrivals):
-    stories.chooses_raindrops(checks, window)
+    deeds.chooses_raindrops(checks, window)
     is_command(checks, arrivals.take(checks, 6), expected_levels.BRIGHTNESS_4)
 
 
@@ -74,12 +76,4 @@ def turns_the_brightness_down(checks, window, arrivals):
 
 
 def is_command(checks, transfers, parameters):
-    stories.effect_is_four_sets_and_two_gets(checks, transfers, expected_levels.COLOUR_BLOCK_WRITE, parameters)
-
-
-def says(checks, window, text):
-    checks.eventually(f"beside the keys stands \"{text}\"", lambda: window.says(text), lambda said: said)
-
-
-def counts(checks, window, button):
-    checks.eventually(f"the button reads \"{button}\"", lambda: window.has_button(button), lambda there: there)
+    wire.effect_is_four_sets_and_two_gets(checks, transfers, expected_levels.COLOUR_BLOCK_WRITE, parameters)

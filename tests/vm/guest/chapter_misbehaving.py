@@ -1,10 +1,8 @@
 """Some of the faults as the window shows them; all are played without a window by lumo-fault-matrix."""
 
+import deeds
 import hidraw
 import stories
-
-DISCONNECTED = "Keyboard disconnected. Running in preview mode."
-FALLBACK = "Connected (Simulation Fallback)"
 
 
 def tell(checks, window, application, keyboard, another):
@@ -23,51 +21,51 @@ def tell(checks, window, application, keyboard, another):
 def fails_the_handshake(checks, window, keyboard):
     keyboard.tell("fault get 82 wrong once")
     stories.plug(checks, keyboard)
-    reads(checks, window, FALLBACK)
+    deeds.reads(checks, window, stories.FALLBACK)
     checks.check("and the header names the keyboard", f"{keyboard.name} (Connected)" in window.header())
-    stories.chooses_raindrops(checks, window)  # reports are sent all the same
+    deeds.chooses_raindrops(checks, window)  # reports are sent all the same
 
 
 def loses_a_command(checks, window, keyboard, fault, what):
     keyboard.tell(f"fault {fault}")
-    checks.check(f"before {what} an effect can be chosen", window.choose("Fixed_on (Static)"))
-    reads(checks, window, "Hardware command failed")
-    stories.is_marked(checks, window, "Fixed_on (Static)")
-    stories.chooses_raindrops(checks, window)
+    checks.check(f"before {what} an effect can be chosen", window.choose(stories.STILL))
+    deeds.reads(checks, window, "Hardware command failed")
+    deeds.is_marked(checks, window, stories.STILL)
+    deeds.chooses_raindrops(checks, window)
 
 
 def takes_a_short_answer(checks, window, keyboard):
     """The write is made of what was asked for, padded; the keyboard holds it then."""
     keyboard.tell("fault get 84 short 1 once")
-    checks.check("before an answer of one byte an effect can be chosen", window.choose("Fixed_on (Static)"))
-    reads(checks, window, "Applied: Fixed_on (Static)")
-    stories.chooses_raindrops(checks, window)
+    checks.check("before an answer of one byte an effect can be chosen", window.choose(stories.STILL))
+    deeds.reads(checks, window, f"Applied: {stories.STILL}")
+    deeds.chooses_raindrops(checks, window)
 
 
 def goes_within_a_command(checks, window, keyboard):
     keyboard.tell("fault set 0a vanish once")
-    checks.check("before the keyboard goes an effect can be chosen", window.choose("Fixed_on (Static)"))
-    is_gone(checks, window, {DISCONNECTED, "Hardware command failed"})
+    checks.check("before the keyboard goes an effect can be chosen", window.choose(stories.STILL))
+    is_gone(checks, window, {stories.GONE, "Hardware command failed"})
     checks.check("in the preview an effect can be chosen", window.choose("Raindrops"))
-    reads(checks, window, "Previewing Raindrops (Simulated)")
+    deeds.reads(checks, window, "Previewing Raindrops (Simulated)")
 
 
 def goes_within_the_handshake(checks, window, keyboard):
     """Whichever is told last stays to be read."""
     keyboard.tell("fault get 82 vanish once")
     keyboard.plug()
-    is_gone(checks, window, {DISCONNECTED, FALLBACK})
+    is_gone(checks, window, {stories.GONE, stories.FALLBACK})
 
 
 def another_comes(checks, window, application, keyboard, another):
     """The last one that comes is held, and only its going is told of."""
     stories.plug(checks, keyboard)
-    stories.connects(checks, window, application, keyboard, times=1)
+    deeds.connects(checks, window, application, keyboard, times=1)
     another.plug()
-    stories.connects(checks, window, application, another, times=2)
+    deeds.connects(checks, window, application, another, times=2)
     keyboard.unplug()
     checks.eventually("the kernel has let go of the first one", hidraw.count, lambda count: count == 2)
-    stories.chooses_raindrops(checks, window)
+    deeds.chooses_raindrops(checks, window)
     checks.check("the header still names the second one", f"{another.name} (Connected)" in window.header())
     stories.unplug(checks, another)
     stories.disconnects(checks, window)
@@ -78,7 +76,3 @@ def is_gone(checks, window, texts):
                       lambda header: stories.DISCONNECTED in header)
     checks.eventually("the kernel has let go of it", hidraw.count, lambda count: count == 0)
     checks.eventually("the status tells of it", window.status, lambda status: status and status[0] in texts)
-
-
-def reads(checks, window, status):
-    checks.eventually(f"the status reads \"{status}\"", window.status, lambda texts: texts[:1] == [status])

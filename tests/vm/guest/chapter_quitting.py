@@ -2,6 +2,7 @@
 
 import time
 
+import deeds
 import stories
 from checks import TryAgain
 
@@ -11,7 +12,7 @@ KERNEL_PATIENCE_SECONDS = 5  # after that a USB transfer without an answer has f
 def tell(checks, window, application, keyboard, hang):
     keyboard.tell("clear")
     stories.plug(checks, keyboard)
-    stories.connects(checks, window, application, keyboard)
+    deeds.connects(checks, window, application, keyboard)
     application.focus()
     keyboard.tell(f"fault {hang}")
 

@@ -1,7 +1,10 @@
 """The remap page: keys are bound, sent again and reset. Everything is found by its name and used by its action."""
 
+import deeds
 import expected_table
+import remapping
 import stories
+import wire
 from arrivals import Arrivals
 
 KEYS = 67
@@ -10,13 +13,13 @@ KEYS = 67
 def tell(checks, window, application, keyboard):
     arrivals = Arrivals(keyboard)
     stories.plug(checks, keyboard)
-    stories.connects(checks, window, application, keyboard)
-    stories.handshake_is_one_pair(checks, arrivals.take(checks, 2))
+    deeds.connects(checks, window, application, keyboard)
+    wire.handshake_is_one_pair(checks, arrivals.take(checks, 2))
     checks.same_bytes("the keyboard's table before", keyboard.registers()["keys"], expected_table.KEY_TABLE_BEFORE)
 
-    opens_the_page(checks, window)
+    remapping.opens_the_page(checks, window)
     binds_without_a_target(checks, window)
-    binds_caps_lock(checks, window, arrivals)
+    remapping.binds_caps_lock(checks, window, arrivals)
     binds_a(checks, window, arrivals)
     saves(checks, window, arrivals)
     resets_half(checks, window, keyboard, arrivals)
@@ -27,42 +30,19 @@ def tell(checks, window, application, keyboard):
     arrivals.end(checks)
 
 
-def opens_the_page(checks, window):
-    checks.check("the page \"Key Assignment\" can be chosen", window.press_tab("Key Assignment"))
-    says(checks, window, "Select a switch on the keyboard above, then click an action below to bind.")
-
-
 def binds_without_a_target(checks, window):
     checks.check("the action \"Mute\" can be pressed", window.press("Mute"))
-    reads(checks, window, "Please select a switch on the keyboard first.")
-
-
-def binds_caps_lock(checks, window, arrivals):
-    """The first change reads the table, 30 ms before it is written."""
-    chooses_target(checks, window, "CapsLock", 3)
-    says(checks, window, "Default Mapping")
-    checks.check("the action \"Mute\" can be pressed", window.press("Mute"))
-    query, answer, write = transfers = arrivals.take(checks, 3)
-    checks.equal("the table is asked for, read and written", [one.direction for one in transfers],
-                 ["set", "get", "set"])
-    checks.check("all were accepted", all(one.accepted for one in transfers), f"{transfers}")
-    checks.same_bytes("the query of the table", query.bytes, expected_table.KEY_TABLE_READ)
-    checks.same_bytes("its answer", answer.bytes, expected_table.KEY_TABLE_BEFORE)
-    checks.check("it is fetched 30 ms later at the earliest", answer.us - query.us >= 30 * stories.MS, f"{transfers}")
-    checks.same_bytes("the table that is written", write.bytes, expected_table.MUTE_ON_CAPS_LOCK)
-    reads(checks, window, "Key position 3 programmed")
-    says(checks, window, "Current: Mute")
-    checks.eventually("the key says so", lambda: window.has_key("CapsLock, bound to Mute"), bool)
+    deeds.reads(checks, window, "Please select a switch on the keyboard first.")
 
 
 def binds_a(checks, window, arrivals):
-    chooses_target(checks, window, "A", 9)
+    remapping.chooses_target(checks, window, "A", 9)
     checks.check("the category \"Function (F1-F12)\" can be chosen", window.press_tab("Function (F1-F12)"))
     checks.eventually("the action \"F5\" is shown", lambda: window.has_button("F5"), bool)
     checks.check("the action \"F5\" can be pressed", window.press("F5"))
     is_write(checks, arrivals, "the table that is known is written", expected_table.F5_ON_A_TOO)
-    reads(checks, window, "Key position 9 programmed")
-    says(checks, window, "Current: F5")
+    deeds.reads(checks, window, "Key position 9 programmed")
+    deeds.says(checks, window, "Current: F5")
 
 
 def saves(checks, window, arrivals):
@@ -79,7 +59,7 @@ def resets_half(checks, window, keyboard, arrivals):
                  window.press("Reset to Defaults"))
     writes = arrivals.take(checks, KEYS)
     checks.equal("every second write is refused", [one.accepted for one in writes], [at % 2 == 1 for at in range(KEYS)])
-    reads(checks, window, "Key remap write failed")
+    deeds.reads(checks, window, "Key remap write failed")
     held = keyboard.registers()["keys"]
     checks.same_bytes("the keyboard holds the last write that it took", held[8:], writes[-2].bytes[8:])
     checks.check("and so none of the codes that it refused", held[8:] != writes[-1].bytes[8:])
@@ -87,7 +67,7 @@ def resets_half(checks, window, keyboard, arrivals):
     checks.check("the action \"F6\" can be pressed", window.press("F6"))
     is_write(checks, arrivals, "the next write is what the keyboard holds, and F6 on A",
              expected_table.written(held, {expected_table.A: bytes.fromhex("00 00 00 3f")}))
-    reads(checks, window, "Key position 9 programmed")
+    deeds.reads(checks, window, "Key position 9 programmed")
 
 
 def resets(checks, window, keyboard, arrivals):
@@ -96,13 +76,13 @@ def resets(checks, window, keyboard, arrivals):
     checks.check("67 tables are written", all(one.direction == "set" and one.bytes[1] == 0x03 for one in writes))
     checks.check("all were accepted", all(one.accepted for one in writes), f"{writes}")
     checks.same_bytes("the last of them", writes[-1].bytes, expected_table.KEY_TABLE_RESET)
-    reads(checks, window, "Key position 65 programmed")
-    says(checks, window, "Default Mapping")
+    deeds.reads(checks, window, "Key position 65 programmed")
+    deeds.says(checks, window, "Default Mapping")
     table_is_reset(checks, keyboard.registers()["keys"])
 
 
 def table_is_reset(checks, held):
-    checks.same_bytes("the keyboard's own table", held, stories.as_read(expected_table.KEY_TABLE_RESET))
+    checks.same_bytes("the keyboard's own table", held, wire.as_read(expected_table.KEY_TABLE_RESET))
     for label, place, code in (("FN", 59, "0d 00 00 00"), ("A", 9, "00 00 00 41"), ("LShift", 4, "00 02 00 00")):
         checks.same_bytes(f"{label} is at its factory code there", expected_table.code(held, place),
                           bytes.fromhex(code))
@@ -112,20 +92,7 @@ def table_is_reset(checks, held):
                  [expected_table.code(expected_table.KEY_TABLE_BEFORE, place) for place in foreign])
 
 
-def chooses_target(checks, window, label, place):
-    checks.check(f"the key \"{label}\" can be pressed", window.press_key(label))
-    says(checks, window, f"{label} (Matrix Pos {place})")
-
-
 def is_write(checks, arrivals, what, table):
     write, = arrivals.take(checks, 1)
     checks.check(f"{what}, accepted", write.accepted, f"{write}")
     checks.same_bytes(f"{what}, byte by byte", write.bytes, table)
-
-
-def reads(checks, window, status):
-    checks.eventually(f"the status reads \"{status}\"", window.status, lambda texts: texts[:1] == [status])
-
-
-def says(checks, window, text):
-    checks.eventually(f"the page says \"{text}\"", lambda: window.says(text), bool)

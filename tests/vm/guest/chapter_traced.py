@@ -3,6 +3,7 @@
 import os
 import re
 
+import deeds
 import hidraw
 import rights
 import stories
@@ -36,16 +37,16 @@ def lives(checks, window, application, keyboard):
     stories.starts_without_keyboard(checks, window)
     stories.launch_is_over(checks, window)
     nodes = stories.plug(checks, keyboard)
-    stories.connects(checks, window, application, keyboard)
+    deeds.connects(checks, window, application, keyboard)
     checks.check(f"the row \"{stories.STILL}\" can be chosen", window.choose(stories.STILL))
-    stories.reads(checks, window, f"Applied: {stories.STILL}")
+    deeds.reads(checks, window, f"Applied: {stories.STILL}")
     checks.check("the page \"Device Settings\" can be chosen", window.press_tab("Device Settings"))
     checks.check("the debounce can be set", window.slide("Switch Debounce Time", 20))
-    stories.reads(checks, window, "Debounce set to 20ms")
+    deeds.reads(checks, window, "Debounce set to 20ms")
     stories.unplug(checks, keyboard)
     stories.disconnects(checks, window)
     checks.equal("plugged again it has the same nodes", stories.plug(checks, keyboard), nodes)
-    stories.connects(checks, window, application, keyboard, times=2)
+    deeds.connects(checks, window, application, keyboard, times=2)
     application.focus()
     stories.quits(checks, application)
     checks.eventually("the process ends", application.ended, lambda status: status is not None)

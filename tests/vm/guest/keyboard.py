@@ -1,7 +1,8 @@
 """A keyboard of ours before the kernel: the program that is it, and the log it writes."""
 
-import json
 import subprocess
+
+import transfers
 
 
 class Keyboard:
@@ -35,23 +36,9 @@ class Keyboard:
         return {name: bytes.fromhex(held) for name, held in zip(words[::2], words[1::2])}
 
     def transfers(self):
-        """Every transfer so far, oldest first; a line still being written is not among them."""
-        with open(self._log, encoding="utf-8") as log:
-            return [Transfer(line) for line in log.read().split("\n")[:-1]]
+        """Every transfer so far, oldest first."""
+        return transfers.read(self._log)
 
     def quit(self):
         self.tell("quit")
         self._process.wait()
-
-
-class Transfer:
-    def __init__(self, line):
-        fields = json.loads(line)
-        self.us = fields["us"]
-        self.direction = fields["dir"]
-        self.accepted = fields["ok"]
-        self.length = fields["len"]
-        self.bytes = bytes.fromhex(fields["hex"])
-
-    def __repr__(self):
-        return f"{self.direction} {self.bytes[:8].hex(' ')}… ({self.length}{'' if self.accepted else ', refused'})"

@@ -26,6 +26,7 @@ from window import Window
 
 BIN = os.environ["LUMO_BIN"]
 LOGS = "/run/lumo"
+PATIENCE_SECONDS = 120  # emulation on a busy machine
 CABLE = {"vendor": "258A", "product": "010C"}
 RECEIVER = {"vendor": "3554", "product": "FA09"}
 
@@ -84,7 +85,7 @@ def with_application(checks, name, keyboard, tell, **launch):
 def main():
     os.makedirs(LOGS, mode=0o1777, exist_ok=True)
     os.chmod(LOGS, 0o1777)
-    checks = Checks()
+    checks = Checks(PATIENCE_SECONDS)
     boards = keyboards()
     if os.environ.get("LUMO_FAULT"):
         for board in boards.values():

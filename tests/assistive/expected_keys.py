@@ -24,6 +24,8 @@ def patched(report, patches):
 PARAMETER_BLOCK_WRITE = patched(expected.PARAMETER_BLOCK_BEFORE, {
     1: 0x04, 18: 0x1D, 19: 0x02, 20: 0x04, 21: 0x01, 124: 0x04, 125: 0x21, 134: 0x5A, 135: 0xA5})
 PARAMETER_BLOCK_KEPT = patched(PARAMETER_BLOCK_WRITE, {1: 0x84})
+# The same where "Raindrops" was chosen before, whose record stays.
+PARAMETER_BLOCK_ON_RAINDROPS = patched(expected.PARAMETER_BLOCK_WRITE, {18: 0x1D, 124: 0x04, 125: 0x21})
 
 # As the keys come: (87, 8, 212) each.
 VIOLET = (

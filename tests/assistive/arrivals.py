@@ -8,12 +8,13 @@ class Arrivals:
 
     def take(self, checks, count):
         """Waits for the next so many transfers."""
-        transfers = checks.eventually(f"{count} transfers arrive", self._waiting, lambda waiting: len(waiting) >= count)
+        transfers = checks.eventually(f"{count} transfers arrive", self.waiting, lambda waiting: len(waiting) >= count)
         self._taken += count
         return transfers[:count]
 
     def end(self, checks):
-        checks.equal("and nothing else has ever arrived", self._waiting(), [])
+        checks.equal("and nothing else has ever arrived", self.waiting(), [])
 
-    def _waiting(self):
+    def waiting(self):
+        """What has arrived and was not taken yet."""
         return self._keyboard.transfers()[self._taken:]

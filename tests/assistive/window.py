@@ -1,7 +1,7 @@
 """The window as assistive technology sees it. Every question goes to the application: nothing is remembered."""
 
 import elements
-from accessibility import Bus
+from accessibility import CONTROL, SPACE, Bus
 
 
 class Window:
@@ -19,9 +19,9 @@ class Window:
         title = self._find("label", "VEXA LUMO 65")
         return elements.texts(self._bus, elements.beside(self._bus, title)) if title else []
 
-    def effects(self):
-        """{name: chosen or not} of the effect rows."""
-        rows = self._find("list")
+    def rows(self, of=""):
+        """{name: chosen or not} of the page's list of that name; most have none."""
+        rows = self._find("list", of)
         return {row.name: row.is_chosen for row in elements.read(self._bus, rows.children)} if rows else {}
 
     def choose(self, effect):
@@ -41,8 +41,19 @@ class Window:
         return self._press("radio button", name)
 
     def press_key(self, label):
-        key = next((key for key in self._keys() if key.name == label), None)
+        key = self._key(label)
         return key is not None and elements.press(self._bus, key)
+
+    def focus_key(self, label):
+        key = self._key(label)
+        return key is not None and elements.focus(self._bus, key)
+
+    def focused_keys(self):
+        return [key.name for key in self._keys() if key.is_focused]
+
+    def press_control_space(self):
+        """On what has the focus."""
+        return self._bus.press_key(SPACE, CONTROL)
 
     def press_tab(self, name):
         return self._press("page tab", name)
@@ -54,12 +65,20 @@ class Window:
     def selected_keys(self):
         return [key.name for key in self._keys() if key.is_chosen]
 
+    def is_chosen(self, name):
+        """True for a button that is there and chosen."""
+        button = self._find("push button", name)
+        return button is not None and button.is_chosen
+
+    def has(self, role, name):
+        return self._find(role, name) is not None
+
     def has_button(self, name):
-        return self._find("push button", name) is not None
+        return self.has("push button", name)
 
     def says(self, text):
         """True when that text stands somewhere in the window."""
-        return self._find("label", text) is not None
+        return self.has("label", text)
 
     def dialogs(self):
         """The names of the questions that lie above the window."""
@@ -76,9 +95,17 @@ class Window:
         slider = self._find("slider", name)
         return elements.value(self._bus, slider) if slider else None
 
+    def everything(self):
+        """(element, its parent) for all that is showing."""
+        frame = self._frame()
+        return list(elements.inside(self._bus, frame)) if frame else []
+
     def _press(self, role, name):
         found = self._find(role, name)
         return found is not None and elements.press(self._bus, found)
+
+    def _key(self, label):
+        return next((key for key in self._keys() if key.name == label), None)
 
     def _keys(self):
         keyboard = self._find_where(lambda one: one.name == elements.KEYBOARD)

@@ -5,8 +5,13 @@ from expected_keys import patched
 
 # The loudness of the rhythm from its first step on, as levels, where it starts from brightness 4.
 LEVELS = (2, 3, 2, 3, 2, 3, 2, 3, 2, 3, 2, 3, 2, 1, 2, 3)
-# Of these, what three hundred steps reach: ten seconds.
+# Of these, what ten seconds reach.
 LEVELS_OF_TEN_SECONDS = 11
+
+
+def changes_within(seconds):
+    """How many of the levels are told at most in that time; two more, where it begins in the middle of a bar."""
+    return LEVELS_OF_TEN_SECONDS * seconds / 10 + 2
 
 
 def with_brightness(level):

@@ -5,12 +5,12 @@ import subprocess
 
 
 class Application:
-    def __init__(self, program, console, *, environment=None, watched_by=()):
+    def __init__(self, program, console, *, arguments=(), environment=None, watched_by=()):
         """`watched_by`: a command before the program, which becomes the program itself."""
         self._console = console
         wanted = {"QT_QPA_PLATFORM": "xcb", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", **(environment or {})}
         with open(console, "wb") as output:
-            self._process = subprocess.Popen([*watched_by, program], env=dict(os.environ, **wanted),
+            self._process = subprocess.Popen([*watched_by, program, *arguments], env=dict(os.environ, **wanted),
                                              stdin=subprocess.DEVNULL, stdout=output, stderr=subprocess.STDOUT)
 
     @property

@@ -2,18 +2,20 @@
 
 import expected
 import expected_keys
-from stories import MS
+from wire import MS
 
 SYNCHRONIZED = "Custom Per-Key RGB Synchronized (67 keys)"
 
 
-def follows(checks, window, arrivals, what, deed, colours, parameters=expected_keys.PARAMETER_BLOCK_KEPT):
-    """Does `deed` and sees one upload of `colours`; `parameters` is the block that the keyboard holds before it."""
+def follows(checks, window, arrivals, what, deed, colours, parameters=expected_keys.PARAMETER_BLOCK_KEPT,
+            written=expected_keys.PARAMETER_BLOCK_WRITE):
+    """Does `deed` and sees one upload of `colours`; `parameters` is the block that the keyboard answers before the new
+    one is written."""
     clears_status(checks, window)
     checks.check(what, deed())
     transfers = arrivals.take(checks, 6)
     is_five_sets_and_a_get(checks, transfers)
-    bytes_are_right(checks, [one.bytes for one in transfers], colours, parameters)
+    bytes_are_right(checks, [one.bytes for one in transfers], colours, parameters, written)
     checks.eventually(f"the status reads \"{SYNCHRONIZED}\"", window.status, lambda texts: texts[:1] == [SYNCHRONIZED])
 
 
@@ -33,8 +35,8 @@ def is_five_sets_and_a_get(checks, transfers):
                  all(gap >= least * MS for gap, least in zip(gaps, (50, 50, 30, 20))), f"{gaps} microseconds")
 
 
-def bytes_are_right(checks, reports, colours, parameters):
-    wanted = (*colours, expected.PARAMETER_BLOCK_READ, parameters, expected_keys.PARAMETER_BLOCK_WRITE)
+def bytes_are_right(checks, reports, colours, parameters, written):
+    wanted = (*colours, expected.PARAMETER_BLOCK_READ, parameters, written)
     names = ("the first colour bank", "the second colour bank", "the LED planes", "the query of the parameter block",
              "its answer", "the parameter block that is written")
     for name, found, literal in zip(names, reports, wanted):

@@ -10,8 +10,13 @@ ACCESSIBLE = "org.a11y.atspi.Accessible"
 ACTION = "org.a11y.atspi.Action"
 COMPONENT = "org.a11y.atspi.Component"
 VALUE = "org.a11y.atspi.Value"
+DEVICES = "org.a11y.atspi.DeviceEventController"
 PROPERTIES = "org.freedesktop.DBus.Properties"
+REGISTRY = "org.a11y.atspi.Registry"
 ROOT = "/org/a11y/atspi/accessible/root"
+DEVICES_PATH = "/org/a11y/atspi/registry/deviceeventcontroller"
+SYMBOL, HOLD_MODIFIERS, LET_GO_OF_MODIFIERS = 3, 5, 6  # what a made-up key event can be
+CONTROL, SPACE = 4, 0x20  # a modifier, and a key
 PATIENCE_MS = 60_000
 
 
@@ -46,8 +51,14 @@ class Bus:
 
     def application(self, pid):
         """Where the elements of that process begin, absent while it has none."""
-        listed = self.ask_one(("org.a11y.atspi.Registry", ROOT), ACCESSIBLE, "GetChildren")
+        listed = self.ask_one((REGISTRY, ROOT), ACCESSIBLE, "GetChildren")
         applications = listed[0] if listed else []
         owners = self.ask([(("org.freedesktop.DBus", "/org/freedesktop/DBus"), "org.freedesktop.DBus",
                             "GetConnectionUnixProcessID", GLib.Variant("(s)", (owner,))) for owner, _ in applications])
         return next((reference for reference, owner in zip(applications, owners) if owner == (pid,)), None)
+
+    def press_key(self, symbol, modifiers):
+        """Presses a key as if by hand; whoever has the focus gets it. True when all of it was sent."""
+        events = ((modifiers, HOLD_MODIFIERS), (symbol, SYMBOL), (modifiers, LET_GO_OF_MODIFIERS))
+        return None not in [self.ask_one((REGISTRY, DEVICES_PATH), DEVICES, "GenerateKeyboardEvent",
+                                         GLib.Variant("(isu)", (code, "", kind))) for code, kind in events]

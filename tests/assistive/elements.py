@@ -5,7 +5,7 @@ from gi.repository import GLib
 from accessibility import ACCESSIBLE, ACTION, COMPONENT, PROPERTIES, VALUE
 
 KEYBOARD = "Keyboard"
-CHECKED, SELECTED, SHOWING = 1 << 4, 1 << 23, 1 << 25
+CHECKED, FOCUSABLE, FOCUSED, SELECTED, SHOWING = 1 << 4, 1 << 11, 1 << 12, 1 << 23, 1 << 25
 
 
 class Element:
@@ -18,6 +18,8 @@ class Element:
         self.children, = children
         self.is_showing = bool(states[0][0] & SHOWING)
         self.is_chosen = bool(states[0][0] & (CHECKED | SELECTED))
+        self.is_focusable = bool(states[0][0] & FOCUSABLE)
+        self.is_focused = bool(states[0][0] & FOCUSED)
 
 
 def read(bus, references):
@@ -36,6 +38,13 @@ def levels(bus, references):
         elements = read(bus, references)
         yield elements
         references = [child for element in elements if element.name != KEYBOARD for child in element.children]
+
+
+def inside(bus, element, parent=None):
+    """The element and everything in it, the 67 keys too, each with its parent, from the top to the foot."""
+    yield element, parent
+    for child in read(bus, element.children):
+        yield from inside(bus, child, element)
 
 
 def find(bus, references, wanted):
@@ -62,13 +71,22 @@ def press(bus, element):
     return press_often(bus, element, 1) == 1
 
 
+def focus(bus, element):
+    return do_often(bus, element, "SetFocus", 1) == 1
+
+
 def press_often(bus, element, times):
-    """Asks for all before the first answer is awaited. How many the element took."""
+    """How many the element took."""
+    return do_often(bus, element, "Press", times)
+
+
+def do_often(bus, element, action, times):
+    """Asks for all before the first answer is awaited."""
     told = bus.ask_one(element.reference, ACTION, "GetActions")
     names = [name for name, _, _ in told[0]] if told else []
-    if "Press" not in names:
+    if action not in names:
         return 0
-    deed = (element.reference, ACTION, "DoAction", GLib.Variant("(i)", (names.index("Press"),)))
+    deed = (element.reference, ACTION, "DoAction", GLib.Variant("(i)", (names.index(action),)))
     return bus.ask([deed] * times).count((True,))
 
 
