@@ -1,5 +1,5 @@
 // What a lighting command costs beyond its fixed pauses, and how long the window's event loop ever stands still while
-// the keyboard hangs. The whole window over the in-process keyboard, on real threads.
+// the keyboard hangs. Over the in-process keyboard, on real threads.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "InProcessHidManager.h"
 #include "app/AppDelegate.h"
 #include "app/SharedObjects.h"
 #include "controls/Theme.h"
@@ -27,16 +28,25 @@ double secondsSince(Clock::time_point start) { return std::chrono::duration<doub
 
 double secondsOf(const test::Gaps& gaps) { return static_cast<double>(gaps.longestUs()) / 1e6; }
 
-/// The program as it stands on the screen; its keyboard may have a fault.
-class RunningProgram final {
+constexpr Duration kUntilPainted = 500ms;
+
+/// The program without its window, connected.
+class RunningLink {
 public:
-    explicit RunningProgram(std::string_view fault = {}) {
-        if (!fault.empty()) m_platform.firmware().addFault(vk::parseFault(fault).value());
-        m_delegate.applicationDidFinishLaunching();
-    }
+    RunningLink() { runUntilStatus("Connected & Authenticated"); }
 
     RunLoop& loop() { return m_platform.mainQueue().run; }
     VexaProtocol& link() { return m_objects.vexaProtocol(); }
+
+    void addFault(std::string_view fault) {
+        m_platform.hid().ioQueue().run.post(
+            [this, fault = vk::parseFault(fault).value()] { m_platform.firmware().addFault(fault); });
+    }
+
+    void plugAgain() {
+        m_platform.hid().unplugAll();
+        m_platform.hid().plugKeyboard();
+    }
 
     void runUntilStatus(const std::string& text) {
         const Subscription changes = link().observe([this, text] {
@@ -59,14 +69,24 @@ public:
 private:
     vk::DemoPlatform m_platform{vk::ReportLog()};
     SharedObjects m_objects{m_platform};
-    AppDelegate m_delegate;
     QEventLoop m_turns;
+};
+
+/// As it stands on the screen, painted and connected.
+class RunningProgram final : public RunningLink {
+public:
+    RunningProgram() {
+        m_delegate.applicationDidFinishLaunching();
+        turn(kUntilPainted);
+    }
+
+private:
+    AppDelegate m_delegate;
 };
 
 void lightingCommand(benchmark::State& state) {
     constexpr double kPausesMs = 60.0;  // three of 20
-    RunningProgram program;
-    program.runUntilStatus("Connected & Authenticated");
+    RunningLink program;
     double worst = 0.0;
     for ([[maybe_unused]] auto turn : state) {
         const auto start = Clock::now();
@@ -92,15 +112,19 @@ const std::vector<test::FaultCase>& hangs() {
     return cases;
 }
 
-/// A command that hangs at one of its transfers, with others queued behind it. The handshake is measured from the start
-/// of the program on. What the machine itself stands still meanwhile stands beside it.
+/// A command that hangs at one of its transfers, with others queued behind it; for the handshake the keyboard is
+/// plugged in again. What the machine itself stands still meanwhile stands beside it.
 void gapWhileHanging(benchmark::State& state) {
     const test::FaultCase& hang = hangs().at(static_cast<std::size_t>(state.range(0)));
     for ([[maybe_unused]] auto turn : state) {
-        RunningProgram program(hang.faultLine());
-        if (hang.command) program.runUntilStatus("Connected & Authenticated");
+        RunningProgram program;
+        program.addFault(hang.faultLine());
         program.loop().post([&] {
-            if (hang.command) hang.command->act(SharedObjects::current());
+            if (hang.command) {
+                hang.command->act(SharedObjects::current());
+            } else {
+                program.plugAgain();
+            }
             for (auto left = state.range(1); left > 0; --left) program.link().setLightingMode(5);
         });
         test::MachineGaps machine(1ms);

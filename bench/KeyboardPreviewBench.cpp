@@ -56,7 +56,7 @@ private:
 };
 
 double cachedSeconds(std::int64_t mode, int scale, int frames) {
-    KeyboardPicture picture(defaultLayout(), keyboardImage());
+    KeyboardPicture picture(defaultLayout(), &keyboardImage);
     Effect effect(mode);
     QImage window = windowPicture(scale);
     const auto frame = [&] {
@@ -119,7 +119,7 @@ void firstFrame(benchmark::State& state) {
     Effect effect(4);
     for ([[maybe_unused]] auto turn : state) {
         const double start = processSeconds();
-        KeyboardPicture picture(defaultLayout(), image);
+        KeyboardPicture picture(defaultLayout(), [&] { return image; });
         const QRect dirty = picture.compose(effect.next());
         QPainter painter(&window);
         picture.paint(painter, QPointF(), dirty);

@@ -1,11 +1,14 @@
 // What the open window costs while nobody touches it: processor time and wake-ups of the whole process, for an effect
-// that stands still and for one that moves, also below a popup. Needs a display; prints one line an effect.
+// that stands still and for one that moves, also below a popup; and before that what an empty window costs, also with a
+// timer as slow as the look at the grants. Needs a display; prints one line each. With any argument: the moving effect
+// alone.
 #include <sys/resource.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTimer>
+#include <QWidget>
 #include <cstdio>
 #include <cstdlib>
 
@@ -19,6 +22,7 @@ namespace {
 
 constexpr int kSettleMs = 3000;
 constexpr int kWatchMs = 20000;
+constexpr int kLookAtGrantsMs = 2000;
 
 struct Usage {
     double cpuMs = 0.0;
@@ -41,8 +45,7 @@ void runLoopFor(int ms) {
     turns.exec();
 }
 
-void watch(const char* what, std::int64_t effect) {
-    VexaProtocol::shared().activeModeId.set(effect);
+void watch(const char* what) {
     runLoopFor(kSettleMs);
     QElapsedTimer clock;
     clock.start();
@@ -50,10 +53,25 @@ void watch(const char* what, std::int64_t effect) {
     runLoopFor(kWatchMs);
     const Usage after = usageSoFar();
     const auto elapsedMs = static_cast<double>(clock.elapsed());
-    std::printf("%-24s %6.2f %% of a core %8.2f wake-ups a second\n", what,
+    std::printf("%-30s %8.4f %% of a core %8.2f wake-ups a second\n", what,
                 100.0 * (after.cpuMs - before.cpuMs) / elapsedMs,
                 1000.0 * static_cast<double>(after.wakeUps - before.wakeUps) / elapsedMs);
     std::fflush(stdout);
+}
+
+void watchEffect(const char* what, std::int64_t effect) {
+    VexaProtocol::shared().activeModeId.set(effect);
+    watch(what);
+}
+
+void watchEmptyWindow() {
+    QWidget window;
+    window.resize(960, 760);
+    window.show();
+    watch("empty window");
+    QTimer timer;
+    timer.start(kLookAtGrantsMs);
+    watch("empty window, timer of 2 s");
 }
 
 }  // namespace
@@ -61,14 +79,16 @@ void watch(const char* what, std::int64_t effect) {
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
+    const bool isWhole = argc == 1;
+    if (isWhole) lumo::watchEmptyWindow();
     lumo::theme::apply(application);
     lumo::vk::DemoPlatform platform{lumo::vk::ReportLog()};
     lumo::SharedObjects objects(platform);
     lumo::AppDelegate delegate;
     delegate.applicationDidFinishLaunching();
-    lumo::watch("moving below a popup", 4);
+    if (isWhole) lumo::watchEffect("moving below a popup", 4);
     lumo::PermissionManager::shared().completeFirstLaunch();  // takes the welcome away
-    lumo::watch("still", 1);
-    lumo::watch("moving", 4);
+    if (isWhole) lumo::watchEffect("still", 1);
+    lumo::watchEffect("moving", 4);
     std::_Exit(EXIT_SUCCESS);
 }

@@ -11,6 +11,12 @@ configureProgram() {
     cmake --preset release -B "$runDirectory" -DBUILD_TESTING=OFF -DLUMO_STRICT=OFF ${prefix[@]+"${prefix[@]}"}
 }
 
+# withTests ON|OFF: whether the programs of the tests can be built there, too. A package is made of all that can be built.
+withTests() {
+    configureProgram
+    cmake -B "$runDirectory" -DBUILD_TESTING="$1"
+}
+
 # buildProgram TARGET…
 buildProgram() {
     say "Building $*"

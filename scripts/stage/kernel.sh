@@ -15,8 +15,7 @@ if isMac; then
     exit 77
 fi
 # What users install, and in an emulated machine only that is quick enough to paint the keyboard at every frame.
-configureProgram
-cmake -B "$runDirectory" -DBUILD_TESTING=ON  # two of them are tests
+withTests ON
 buildProgram vexa-lumo-65 vexa-lumo-65-interface lumo-fault-matrix lumo-usbip-keyboard lumo-uhid-keyboard \
     lumo-turn-probe
 exec tests/vm/run_vm.sh "$runDirectory" build/kernel

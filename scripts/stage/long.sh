@@ -17,8 +17,8 @@ cleanUp() {
 
 # build PRESET TARGET
 build() {
-    cmake --preset "$1" -DCMAKE_CXX_COMPILER=g++
-    cmake --build "build/$1" --parallel "$(jobCount)" --target "$2"
+    cmake --preset "$1" -DCMAKE_CXX_COMPILER=g++ &&
+        cmake --build "build/$1" --parallel "$(jobCount)" --target "$2"
 }
 
 # logged NAME COMMAND [ARGUMENT…]: counts it as one check.
@@ -37,17 +37,22 @@ runFaults() {
     return "$code"
 }
 
+runFuzz() {
+    local code=0
+    scripts/stage/fuzz.sh "$seconds" || code=$?
+    cp build/fuzz/Testing/Temporary/LastTest.log "$logs/fuzz.log"
+    return "$code"
+}
+
 runRaces() {
     proveSanitizer tsan
     useSanitizerOptions
-    build tsan lumo_races
-    logged races underSanitizer build/tsan/bin/lumo_races --seconds "$((seconds / 6))"
+    build tsan lumo_races && logged races underSanitizer build/tsan/bin/lumo_races --seconds "$((seconds / 6))"
 }
 
 # runMonkey PRESET
 runMonkey() {
-    build "$1" lumo_monkey
-    logged "monkey-$1" underSanitizer "build/$1/bin/lumo_monkey" --seconds "$seconds"
+    build "$1" lumo_monkey && logged "monkey-$1" underSanitizer "build/$1/bin/lumo_monkey" --seconds "$seconds"
 }
 
 runMonkeys() {
@@ -66,7 +71,7 @@ trap cleanUp EXIT
 mkdir -p "$logs"
 case "$1" in
     faults) runFaults ;;
-    fuzz) exec scripts/stage/fuzz.sh "$seconds" ;;
+    fuzz) runFuzz ;;
     races) runRaces ;;
     monkey) runMonkeys ;;
     *) die "there is no long run named $1." ;;

@@ -14,7 +14,6 @@ if isMac; then
     exit 77
 fi
 rm -f "$runDirectory"/*.deb
-configureProgram
-cmake -B "$runDirectory" -DBUILD_TESTING=OFF  # everything that can be built is built for a package
+withTests OFF
 buildProgram package
 exec tests/packaging/check_packages.sh "$runDirectory"

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# setup.sh quick|vm|packages|full: installs what the stages of that mode need.
+# setup.sh quick|vm|packages|long|measure|full: installs what the stages of that mode need.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 for piece in say system packages install; do
@@ -14,6 +14,7 @@ packagesForMode() {
     packagesToTest "$versions"
     packagesForPicture
     case "$1" in full | packages) packagesForPackages ;; esac
+    case "$1" in measure) packagesToMeasure ;; esac
 }
 
 # Without an emulator the real kernel is left out, and the whole run ends as incomplete; that is for its stage to say.
@@ -30,5 +31,5 @@ fi
 packages=$(packagesForMode "$1")
 # shellcheck disable=SC2086  # a list of names
 needDebs $packages
-case "$1" in full | vm) installKernelPackages ;; esac
+case "$1" in full | vm | long) installKernelPackages ;; esac
 note "Everything needed is installed."

@@ -8,6 +8,7 @@ for piece in say system display count sanitizers private; do
 done
 preset=$1
 build=build/$preset
+resources=$PWD/$build/displays.json
 
 configure() {
     local options=()
@@ -20,11 +21,24 @@ cleanUp() {
     dropPrivateFolders
 }
 
+# One window's test at a time on a screen, and a screen for each processor. What says nothing of resources gets one
+# of its own.
+startDisplays() {
+    local ids=
+    for _ in $(seq "$(jobCount)"); do
+        startDisplay
+        ids+="${ids:+, }{\"id\": \"${DISPLAY#:}\", \"slots\": 1}"
+    done
+    printf '{"version": {"major": 1, "minor": 0}, "local": [{"displays": [%s]}]}\n' "$ids" >"$resources"
+    startDisplay
+}
+
 runTests() {
-    local record="$PWD/$build/tests.xml" code=0
+    local record="$PWD/$build/tests.xml" code=0 known=()
     rm -f "$record"
+    if ! isMac; then known=(--resource-spec-file "$resources"); fi
     underSanitizer ctest --test-dir "$build" --parallel "$(jobCount)" --timeout 300 --no-tests=error \
-        --output-on-failure --output-junit "$record" </dev/null || code=$?
+        --output-on-failure --output-junit "$record" ${known[@]+"${known[@]}"} </dev/null || code=$?
     addCTestCount "$record" || code=1
     return "$code"
 }
@@ -38,5 +52,5 @@ configure
 cmake --build "$build" --parallel "$(jobCount)"
 useUtf8
 usePrivateFolders
-if ! isMac; then startDisplay; fi
+if ! isMac; then startDisplays; fi
 runTests
