@@ -15,7 +15,7 @@ public:
     /// Draws a symbol's shape in any colour at that size in pixels; null when there is no symbol of that name.
     using Draw = std::function<QImage(const QString& name, QSize pixels)>;
 
-    static constexpr qsizetype kLargestBytes = qsizetype{512} << 10;  // a frame of 48 points at scale 2 is 36 KiB
+    static constexpr qsizetype kLargestBytes = qsizetype{256} << 10;  // a frame of 48 points at scale 2 is 36 KiB
 
     explicit SymbolCache(Draw draw, qsizetype largestBytes = kLargestBytes);
 

@@ -10,6 +10,7 @@
 #include "InProcessHidManager.h"
 #include "app/UIState.h"
 #include "controls/PushControl.h"
+#include "keyboard/KeyboardModel.h"
 #include "support/RandomFault.h"
 
 namespace lumo::test {
@@ -60,6 +61,7 @@ void Monkey::comeHome() {
     state.macroEvents.set({});
     state.selectedMacroIndex.set(0);
     state.compiledMacroHex.set("");
+    KeyboardModel::shared().selectedKeyIds.set({});  // each ring is a picture
 }
 
 QSize Monkey::room() const {
