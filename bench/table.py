@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """table.py BUILD_DIR: measures the programs of a release build on the display there is, and prints one table, in
 Markdown. What a window costs stands beside what an empty one costs, what painting costs beside the uncached painter, in
-the same run. Ends with 1 when a figure is over its budget. Wants an idle machine, and takes twenty minutes."""
+the same run. Ends with 1 when a figure is over its budget. Wants an idle machine, and takes a quarter of an hour."""
 
 import json
 import os
