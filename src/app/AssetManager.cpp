@@ -28,10 +28,10 @@ AssetManager& AssetManager::shared() {
     return *place;
 }
 
-std::shared_ptr<const QImage> AssetManager::image(std::string_view name) {
+QImage AssetManager::image(std::string_view name) {
     if (const auto known = m_cache.find(name); known != m_cache.end()) return known->second.pixels();
     std::optional<LoadedImage> found = read(name);
-    if (!found) return nullptr;
+    if (!found) return {};
     return m_cache.emplace(name, *std::move(found)).first->second.pixels();
 }
 

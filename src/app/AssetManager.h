@@ -7,7 +7,6 @@
 #include <future>
 #include <initializer_list>
 #include <map>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,7 +37,7 @@ public:
     /// `name` with its ending, alone ("navi2_nr.png") or with folders; white space around it does not count. Null when
     /// no file of that name holds a picture, which is never an error.
     /// To be drawn as it is: artwork has its own colours and is never tinted.
-    [[nodiscard]] std::shared_ptr<const QImage> image(std::string_view name);
+    [[nodiscard]] QImage image(std::string_view name);
 
 private:
     static bool isFileOnDisk(const std::string& path);

@@ -87,13 +87,13 @@ void NaviPillButton::paintSurface(QPainter& painter) const {
 
 void NaviPillButton::paintIcon(QPainter& painter, const QRectF& frame) const {
     const NavTabLabel& label = labelOf(m_tab);
-    const auto picture = AssetManager::shared().image(isSelected() ? label.iconActive : label.iconNormal);
-    if (!picture) {
+    const QImage picture = AssetManager::shared().image(isSelected() ? label.iconActive : label.iconNormal);
+    if (picture.isNull()) {
         return paintSymbol(painter, centred(frame, kSymbolSize), plainText(label.fallbackSymbol),
                            isSelected() ? kSymbolColor : Qt::white);
     }
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(frame, *picture);
+    painter.drawImage(frame, picture);
 }
 
 }  // namespace lumo

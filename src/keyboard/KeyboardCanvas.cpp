@@ -16,10 +16,7 @@
 namespace lumo {
 namespace {
 
-QImage caseAndCaps() {
-    const auto picture = AssetManager::shared().image("keyimg.png");
-    return picture ? *picture : QImage();
-}
+QImage caseAndCaps() { return AssetManager::shared().image("keyimg.png"); }
 
 bool isMultiSelect(Qt::KeyboardModifiers modifiers) {
 #ifdef Q_OS_MACOS

@@ -27,10 +27,7 @@ int spectrumTop() { return theme::kCardPadding + 2 * pitch(); }
 
 int wheelTop() { return spectrumTop() + Section::headingHeight() + kHeadingToWheel; }
 
-QImage wheelPicture() {
-    const auto picture = AssetManager::shared().image("colorwheel.png");
-    return picture ? *picture : QImage();
-}
+QImage wheelPicture() { return AssetManager::shared().image("colorwheel.png"); }
 
 }  // namespace
 

@@ -40,10 +40,7 @@ QRectF centred(double x, double width, double height) {
     return {x, (StepRow::rowHeight() - height) / 2.0, width, height};
 }
 
-QImage picture(std::string_view name) {
-    const auto found = AssetManager::shared().image(name);
-    return found ? *found : QImage();
-}
+QImage picture(std::string_view name) { return AssetManager::shared().image(name); }
 
 }  // namespace
 

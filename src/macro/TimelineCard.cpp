@@ -32,8 +32,7 @@ int lineTop() { return buttonsTop() + buttonHeight() + kButtonsToLine; }
 int rowsTop() { return lineTop() + 1 + kLineToRows; }
 
 QImage recordPicture(bool isRecording) {
-    const auto found = AssetManager::shared().image(isRecording ? "stop_nr.png" : "record_nr.png");
-    return found ? *found : QImage();
+    return AssetManager::shared().image(isRecording ? "stop_nr.png" : "record_nr.png");
 }
 
 }  // namespace

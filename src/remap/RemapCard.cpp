@@ -56,9 +56,9 @@ void RemapCard::paintSurface(QPainter& painter) const {
 }
 
 void RemapCard::paintIcon(QPainter& painter, const QRectF& frame) const {
-    const auto picture = AssetManager::shared().image(m_icon);
-    if (!picture) return paintSymbol(painter, frame, "circle.grid.2x2", kSymbolColor);
-    paintPicture(painter, frame, *picture);
+    const QImage picture = AssetManager::shared().image(m_icon);
+    if (picture.isNull()) return paintSymbol(painter, frame, "circle.grid.2x2", kSymbolColor);
+    paintPicture(painter, frame, picture);
 }
 
 void RemapCard::paintName(QPainter& painter, double top) const {

@@ -23,8 +23,8 @@ void AssetFixture::paint(const QString& path, const QColor& color, QSize size) {
 }
 
 QColor AssetFixture::colorOf(std::string_view name) {
-    const auto image = assets.image(name);
-    return image ? image->pixelColor(0, 0) : QColor();
+    const QImage image = assets.image(name);
+    return image.isNull() ? QColor() : image.pixelColor(0, 0);
 }
 
 bool AssetFixture::check(const std::string& path) {

@@ -19,8 +19,8 @@ int main(int argc, char** argv) {
     lumo::AssetManager assets(*bundle);
     int missing = 0;
     for (const auto& target : lumo::artwork::kExports) {
-        const auto image = assets.image(lastComponent(target.file));
-        if (image && image->size() == QSize(target.width, target.height)) continue;
+        const QImage image = assets.image(lastComponent(target.file));
+        if (image.size() == QSize(target.width, target.height)) continue;
         std::printf("%.*s is not found.\n", static_cast<int>(target.file.size()), target.file.data());
         ++missing;
     }

@@ -17,10 +17,10 @@ namespace lumo {
 namespace {
 
 void paintAsset(QImage& picture, const QRectF& frame, std::string_view name) {
-    const auto asset = AssetManager::shared().image(name);
-    ASSERT_NE(asset, nullptr) << name;
+    const QImage asset = AssetManager::shared().image(name);
+    ASSERT_FALSE(asset.isNull()) << name;
     QPainter painter(&picture);
-    paintPicture(painter, frame, *asset);
+    paintPicture(painter, frame, asset);
 }
 
 class MacroLooks : public test::MacroFixture {
