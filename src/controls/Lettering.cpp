@@ -157,7 +157,6 @@ QPainterPath Lettering::outlines(const QString& text) const {
 }
 
 QString typeset(const QString& text) {
-    constexpr QChar kZeroWidthNonJoiner(0x200C);
     QString set = text;
     return set.replace("0x", QString("0") + kZeroWidthNonJoiner + 'x');
 }

@@ -35,7 +35,6 @@ const QPainterPath& outlineOf(const QRawFont& font, quint32 glyph) {
 /// would be loaded for a sign that shows nothing.
 struct Pieces {
     explicit Pieces(QString all) : text(std::move(all)) {
-        constexpr QChar kZeroWidthNonJoiner(0x200C);
         for (auto at = text.indexOf(kZeroWidthNonJoiner); at >= 0; at = text.indexOf(kZeroWidthNonJoiner, at)) {
             text.remove(at, 1);
             if (at < text.size()) borders.push_back({static_cast<int>(at), 1, {}});

@@ -1,6 +1,7 @@
 // A line of text in outlines: which letters stand where.
 #pragma once
 
+#include <QChar>
 #include <QFont>
 #include <QPainterPath>
 #include <QPointF>
@@ -8,6 +9,9 @@
 #include <vector>
 
 namespace lumo {
+
+/// Parts letters that would change each other's shape; shows nothing.
+inline constexpr QChar kZeroWidthNonJoiner(0x200C);
 
 struct TextShape {
     struct Letter {
