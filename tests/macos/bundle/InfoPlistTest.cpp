@@ -51,7 +51,7 @@ TEST_F(InfoPlist, TellsTheSystemAllThatItAsks) {
         {"LSMinimumSystemVersion", "12.0"},
         {"NSHighResolutionCapable", "<true>"},
         {"NSMicrophoneUsageDescription",
-         "The music page listens to the microphone, so that the keyboard can shine in time with your music."},
+         "Asked for by the music page. Nothing is recorded: its rhythm comes from the program itself."},
         {"NSPrincipalClass", "NSApplication"},
     };
     EXPECT_EQ(entries, expected);
