@@ -50,11 +50,27 @@ TEST_F(DebounceCommand, SendsWholeTensOfMillisecondsAsALevelFrom0To4) {
     }
 }
 
-TEST_F(DebounceCommand, SaysTheLevelInMillisecondsAndNotWhatWasAskedFor) {
+TEST_F(DebounceCommand, FiveMillisecondsAreLevel0AndSaidToBe0) {
     connect();
     EXPECT_EQ(statusAfter(5), "Debounce set to 0ms");
-    EXPECT_EQ(statusAfter(25), "Debounce set to 20ms");
+    EXPECT_EQ(levelSent(), 0);
+}
+
+TEST_F(DebounceCommand, AHundredMillisecondsAreLevel4AndSaidToBe40) {
+    connect();
     EXPECT_EQ(statusAfter(100), "Debounce set to 40ms");
+    EXPECT_EQ(levelSent(), 4);
+}
+
+TEST_F(DebounceCommand, LessThanNoTimeIsLevel0) {
+    connect();
+    EXPECT_EQ(statusAfter(-10), "Debounce set to 0ms");
+    EXPECT_EQ(levelSent(), 0);
+}
+
+TEST_F(DebounceCommand, SaysTheLevelInMillisecondsAndNotWhatWasAskedFor) {
+    connect();
+    EXPECT_EQ(statusAfter(25), "Debounce set to 20ms");
 }
 
 TEST_F(DebounceCommand, PatchesTheLevelAndTheMarkerAndNothingElse) {

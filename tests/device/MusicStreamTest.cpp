@@ -25,16 +25,22 @@ protected:
 };
 
 TEST_F(MusicStream, TheMeanOfTheBandsBecomesALevelFrom1To4) {
-    EXPECT_EQ(levelOf(0), 1);
     EXPECT_EQ(levelOf(49), 1);
     EXPECT_EQ(levelOf(50), 1);
-    EXPECT_EQ(levelOf(99), 1);
-    EXPECT_EQ(levelOf(100), 2);
     EXPECT_EQ(levelOf(149), 2);
     EXPECT_EQ(levelOf(150), 3);
     EXPECT_EQ(levelOf(199), 3);
     EXPECT_EQ(levelOf(200), 4);
+}
+
+TEST_F(MusicStream, SilenceIsLevel1AndTheGreatestLoudnessLevel4) {
+    EXPECT_EQ(levelOf(0), 1);
     EXPECT_EQ(levelOf(255), 4);
+}
+
+TEST_F(MusicStream, AMeanOf100IsLevel2AndOneOf99Level1) {
+    EXPECT_EQ(levelOf(100), 2);
+    EXPECT_EQ(levelOf(99), 1);
 }
 
 TEST_F(MusicStream, TheMeanIsRoundedTowardsZero) {

@@ -22,6 +22,7 @@ using testing::Not;
 
 class MusicPage : public test::MusicFixture {
 protected:
+    static constexpr int kFillX = 4;
     std::vector<QString> tiles() {
         std::vector<QString> names;
         for (const MusicModeTile* const tile : view->findChildren<MusicModeTile*>()) names.push_back(tile->text());
@@ -40,6 +41,21 @@ protected:
             if (line->isVisible()) shown.push_back(line->text());
         }
         return shown;
+    }
+    struct ToggleLook {
+        QColor ground;  // beside it
+        QColor fill;
+        QColor dot;
+    };
+    ToggleLook toggleLook(const QString& name) {
+        const QRect toggle = rectOf(control(name));
+        const QImage picture = view->grab().toImage();
+        const int y = toggle.center().y();
+        const auto at = [&](int x) { return picture.pixelColor(toggle.left() + x, y); };
+        int dot = kFillX;  // what is drawn first from the left
+        while (dot < toggle.width() && at(dot) == at(kFillX)) ++dot;
+        constexpr int kToMiddleOfDot = 4;
+        return {at(-4), at(kFillX), at(dot + kToMiddleOfDot)};
     }
     double barHeight(double level) {
         BandLevels levels{};
@@ -124,6 +140,38 @@ TEST_F(MusicPage, ChoosingAModeMarksItNamesItAndMarksBlossomingOnTheLightingPage
     state().currentTab.set(NavTab::lighting);
     turn();
     EXPECT_THAT(selectedNames(), ElementsAre("Blossoming"));
+}
+
+TEST_F(MusicPage, TheNoticeSaysWhatIsMissingBesideItsSymbol) {
+    showMusic();
+    setMicrophone(AudioAuthorization::denied);
+    auto& notice = only<MicrophoneNotice>();
+    EXPECT_EQ(notice.findChild<TextBlock*>()->text(), "Microphone permission required for live spectrum sampling.");
+    const QImage picture = notice.grab().toImage();
+    const QColor ground = picture.pixelColor(8, notice.height() / 2);
+    int drawn = 0;
+    for (int x = 14; x < 34; ++x) drawn += picture.pixelColor(x, notice.height() / 2) != ground ? 1 : 0;
+    EXPECT_GT(drawn, 4);
+}
+
+TEST_F(MusicPage, TheToggleAtRestIsFaintlyWhiteWithAGreyDot) {
+    showMusic();
+    const ToggleLook look = toggleLook("STREAM: OFF");
+    const auto over = [](int ground) { return ground + 0.1 * (0xFF - ground); };
+    EXPECT_NEAR(look.fill.red(), over(look.ground.red()), 1.0);
+    EXPECT_NEAR(look.fill.blue(), over(look.ground.blue()), 1.0);
+    EXPECT_EQ(look.dot, QColor(0x9A, 0x9A, 0xA0));
+}
+
+TEST_F(MusicPage, TheToggleOfARunningStreamIsCyanOf70PercentWithAGreenDot) {
+    engine().start();
+    showMusic();
+    const ToggleLook look = toggleLook("STREAMING: ON");
+    const auto over = [](int ground, int color) { return ground + 0.7 * (color - ground); };
+    EXPECT_NEAR(look.fill.red(), over(look.ground.red(), 0x2C), 1.0);
+    EXPECT_NEAR(look.fill.green(), over(look.ground.green(), 0xC9), 1.0);
+    EXPECT_NEAR(look.fill.blue(), over(look.ground.blue(), 0xEE), 1.0);
+    EXPECT_EQ(look.dot, QColor(0x22, 0xE0, 0x6A));
 }
 
 TEST_F(MusicPage, TheNoticeIsThereWhileTheMicrophoneIsNotAllowed) {

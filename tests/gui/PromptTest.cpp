@@ -102,6 +102,7 @@ TEST_F(Prompt, FixInSystemSettingsOpensTheMicrophonePaneAlsoWhenOnlyTheKeysAreMi
     EXPECT_THAT(popupAtChange, ElementsAre(false));  // dismissed first, and before the page the pane is not opened
     EXPECT_EQ(state().currentTab.get(), NavTab::settings);
     EXPECT_FALSE(recheck().isShown());
+    EXPECT_TRUE(permissions().showPermissionToast.get());
 }
 
 TEST_F(Prompt, DismissToSettingsOpensNothing) {
@@ -110,7 +111,7 @@ TEST_F(Prompt, DismissToSettingsOpensNothing) {
     EXPECT_THAT(platform.journal, IsEmpty());
     EXPECT_EQ(state().currentTab.get(), NavTab::settings);
     EXPECT_FALSE(recheck().isShown());
-    EXPECT_TRUE(toast().isVisible());  // the toast is closed on its own
+    EXPECT_TRUE(permissions().showPermissionToast.get());  // the toast is closed on its own
 }
 
 TEST_F(Prompt, TheToastsTextAndButtonLeadToTheSettingsAndLeaveItStanding) {
@@ -127,14 +128,21 @@ TEST_F(Prompt, TheToastsTextAndButtonLeadToTheSettingsAndLeaveItStanding) {
     EXPECT_THAT(platform.journal, IsEmpty());
 }
 
-TEST_F(Prompt, ClosingTheToastLeavesThePopupAndTheReverse) {
+TEST_F(Prompt, ClosingTheToastLeavesThePopup) {
     showLaterLaunch();
     control("Dismiss notification").click();  // the popup lies above it
     time.advance(Duration{0});
     EXPECT_FALSE(permissions().showPermissionToast.get());
     EXPECT_TRUE(recheck().isShown());
+}
+
+TEST_F(Prompt, ClosingThePopupLeavesTheToast) {
+    showLaterLaunch();
     click("Dismiss to Settings");
+    waitForFades();
     EXPECT_FALSE(recheck().isShown());
+    EXPECT_TRUE(permissions().showPermissionToast.get());
+    EXPECT_TRUE(toast().isVisible());
 }
 
 TEST_F(Prompt, TheToastGoesWithTheCloseButton) {
