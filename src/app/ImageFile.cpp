@@ -8,6 +8,7 @@
 #include <QImageReader>
 #include <mutex>
 #include <optional>
+#include <utility>
 
 #include "app/PngChunks.h"
 
@@ -112,9 +113,9 @@ QImage decodedImage(QByteArray bytes) {
     if (bytes.isEmpty()) return {};
     const Silence silence;
     limitAllocation();
-    const QImage image = read(bytes);
-    // The form that is painted without being converted every time.
-    return image.isNull() ? image : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    QImage image = read(bytes);
+    // The form that is painted without being converted every time; in place, since nobody else has it yet.
+    return image.isNull() ? image : std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
 }  // namespace lumo
