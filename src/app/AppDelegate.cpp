@@ -39,9 +39,10 @@ void AppDelegate::makeQuitAction() {
 
 void AppDelegate::applicationDidFinishLaunching() {
     window_system::becomeRegularApplication();
-    AssetManager::shared().readAhead({"keyimg.png", "colorwheel.png"});
+    AssetManager::shared().readAhead("keyimg.png");
     // The view comes before the window: making it brings the device link to life.
     auto view = std::make_unique<MainView>(window_system::showsMenuBar() ? nullptr : &m_quit);
+    AssetManager::shared().readAhead("colorwheel.png");  // behind the keys, which the view has drawn ahead
     makeWindow();
     m_window->setCentralWidget(view.release());
     m_window->show();

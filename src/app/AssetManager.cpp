@@ -8,6 +8,7 @@
 
 #include "app/AssetPaths.h"
 #include "app/SharedObjects.h"
+#include "foundation/MakeAhead.h"
 
 namespace lumo {
 namespace {
@@ -20,6 +21,10 @@ std::string trimmed(std::string_view name) {
 }  // namespace
 
 AssetManager::AssetManager(Bundle& bundle, FileProbe isFile) : m_bundle(bundle), m_isFile(std::move(isFile)) {}
+
+AssetManager::~AssetManager() {
+    for (const auto& [name, picture] : m_coming) picture.wait();  // they are read with what goes now
+}
 
 AssetManager& AssetManager::shared() {
     SharedObjects& objects = SharedObjects::current();
@@ -35,22 +40,8 @@ QImage AssetManager::image(std::string_view name) {
     return m_cache.emplace(name, *std::move(found)).first->second.pixels();
 }
 
-void AssetManager::readAhead(std::initializer_list<std::string_view> names) {
-    std::vector<std::pair<std::string, std::promise<std::optional<LoadedImage>>>> wanted;
-    decltype(m_coming) coming;
-    for (const std::string_view name : names) {
-        auto& [file, promise] = wanted.emplace_back(trimmed(name), std::promise<std::optional<LoadedImage>>());
-        coming.emplace(name, promise.get_future());
-    }
-    const auto readAll = [this](auto all) {
-        for (auto& [name, promise] : all) promise.set_value(find(name));
-    };
-    try {
-        m_reader = std::async(std::launch::async, readAll, std::move(wanted));
-    } catch (const std::system_error&) {
-        return;  // no thread to be had: they are read when they are asked for
-    }
-    m_coming = std::move(coming);
+void AssetManager::readAhead(std::string_view name) {
+    m_coming.emplace(name, makeAhead([this, file = trimmed(name)] { return find(file); }));
 }
 
 std::optional<LoadedImage> AssetManager::read(std::string_view name) {

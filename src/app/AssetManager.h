@@ -5,7 +5,6 @@
 #include <QImage>
 #include <functional>
 #include <future>
-#include <initializer_list>
 #include <map>
 #include <optional>
 #include <string>
@@ -26,13 +25,13 @@ public:
     explicit AssetManager(Bundle& bundle, FileProbe isFile = isFileOnDisk);
     AssetManager(const AssetManager&) = delete;
     AssetManager& operator=(const AssetManager&) = delete;
-    ~AssetManager() = default;
+    ~AssetManager();
 
     /// The one instance of the running program.
     static AssetManager& shared();
 
-    /// Begins to read these on another thread, in this order, for those who will soon ask for them. Once.
-    void readAhead(std::initializer_list<std::string_view> names);
+    /// Has it read on another thread, for whoever will soon ask for it.
+    void readAhead(std::string_view name);
 
     /// `name` with its ending, alone ("navi2_nr.png") or with folders; white space around it does not count. Null when
     /// no file of that name holds a picture, which is never an error.
@@ -49,7 +48,6 @@ private:
     FileProbe m_isFile;
     std::map<std::string, LoadedImage, std::less<>> m_cache;  // by the name as it was asked for
     std::map<std::string, std::future<std::optional<LoadedImage>>, std::less<>> m_coming;
-    std::future<void> m_reader;  // the last member: nothing else may go while it reads
 };
 
 }  // namespace lumo

@@ -5,6 +5,7 @@
 #include <cassert>
 #include <utility>
 
+#include "foundation/MakeAhead.h"
 #include "keyboard/KeyRing.h"
 #include "keyboard/PictureLayers.h"
 
@@ -20,11 +21,12 @@ KeyboardPicture::KeyboardPicture(std::vector<KeyCap> keys, PictureSource picture
     m_touched.reserve(m_keys.size());
 }
 
-KeyboardPicture::~KeyboardPicture() = default;
+KeyboardPicture::~KeyboardPicture() {
+    if (m_ahead.valid()) m_ahead.wait();  // nothing is drawn when the application has gone
+}
 
 void KeyboardPicture::drawAhead(double scale) {
-    // Where no thread can be had, it is done when it is asked for.
-    m_ahead = std::async([keys = m_keys, grid = DeviceGrid{scale, {}}] { return Ahead(keys, grid); });
+    m_ahead = makeAhead([keys = m_keys, grid = DeviceGrid{scale, {}}] { return Ahead(keys, grid); });
 }
 
 QRect KeyboardPicture::compose(std::span<const KeyLook> looks) {

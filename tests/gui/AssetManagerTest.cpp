@@ -50,7 +50,8 @@ TEST_F(Assets, ANameFoundNowhereIsSearchedForAtEveryCall) {
 
 TEST_F(Assets, APictureThatIsReadAheadIsFoundAsOthersAre) {
     paint(places[13], Qt::red);
-    assets.readAhead({"set/a.png", "set/b.png"});
+    assets.readAhead("set/a.png");
+    assets.readAhead("set/b.png");
     EXPECT_EQ(colorOf("set/a.png"), QColor(Qt::red));
     EXPECT_TRUE(assets.image("set/b.png").isNull());
     paint(workingCopy + "/assets/set/b.png", Qt::blue);
@@ -59,7 +60,7 @@ TEST_F(Assets, APictureThatIsReadAheadIsFoundAsOthersAre) {
 
 TEST_F(Assets, ReadingAheadIsAnotherThreadsWork) {
     paint(places[13], Qt::red);
-    assets.readAhead({"set/a.png"});
+    assets.readAhead("set/a.png");
     const QImage picture = assets.image("set/a.png");
     ASSERT_FALSE(picture.isNull());
     ASSERT_FALSE(threads.empty());
@@ -70,7 +71,7 @@ TEST_F(Assets, ReadingAheadIsAnotherThreadsWork) {
 TEST_F(Assets, NobodyWaitsForAPictureThatWasReadAheadForNothing) {
     paint(places[13], Qt::red);
     paint(workingCopy + "/assets/set/b.png", Qt::blue);
-    assets.readAhead({"set/a.png"});
+    assets.readAhead("set/a.png");
     EXPECT_EQ(colorOf("set/b.png"), QColor(Qt::blue));
 }
 
