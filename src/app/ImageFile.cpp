@@ -8,6 +8,7 @@
 #include <QImageReader>
 #include <mutex>
 #include <optional>
+#include <span>
 #include <utility>
 
 #include "app/PngChunks.h"
@@ -91,6 +92,17 @@ QImage read(QByteArray& bytes) {
     return reader.read();
 }
 
+/// The form that is painted without being converted every time. In place, since nobody else has the image yet, and here
+/// on this thread: Qt would wake others for it, which take the processors from the main one.
+QImage premultiplied(QImage image) {
+    const auto width = static_cast<std::size_t>(image.width());
+    for (int y = 0; y < image.height(); ++y) {
+        for (QRgb& pixel : std::span(reinterpret_cast<QRgb*>(image.scanLine(y)), width)) pixel = qPremultiply(pixel);
+    }
+    image.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);
+    return image;
+}
+
 /// The whole process's.
 void limitAllocation() {
     static const bool isLimited = (QImageReader::setAllocationLimit(kLargestPictureMiB), true);
@@ -114,7 +126,7 @@ QImage decodedImage(QByteArray bytes) {
     const Silence silence;
     limitAllocation();
     QImage image = read(bytes);
-    // The form that is painted without being converted every time; in place, since nobody else has it yet.
+    if (image.format() == QImage::Format_ARGB32) return premultiplied(std::move(image));
     return image.isNull() ? image : std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 

@@ -209,6 +209,15 @@ TEST_F(Assets, ArtworkIsReadyToBePaintedAndKeepsItsColors) {
     EXPECT_EQ(image.pixelColor(1, 1), QColor(0xB9, 0xA3, 0xFF));
 }
 
+TEST_F(Assets, TranslucentArtworkIsMadeReadyAsQtWould) {
+    QImage drawn(256, 4, QImage::Format_ARGB32);
+    for (int x = 0; x < drawn.width(); ++x) {
+        for (int y = 0; y < drawn.height(); ++y) drawn.setPixel(x, y, qRgba(x, 255 - x, (x * 7) % 256, y * 85));
+    }
+    ASSERT_TRUE(drawn.save(resources + "/a.png"));
+    EXPECT_EQ(assets.image("a.png"), drawn.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+}
+
 class SharedAssets : public test::AssetFixture {
 protected:
     test::TestPlatform platform;
