@@ -12,7 +12,7 @@
 
 namespace lumo {
 
-/// Main thread. The keys outlive it.
+/// One thread at a time. The keys outlive it.
 class PictureLayers final {
 public:
     /// `picture` may be null; then the case is drawn.
