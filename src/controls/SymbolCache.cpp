@@ -20,15 +20,15 @@ template <typename Key, typename Make>
 QImage cached(QCache<Key, QImage>& cache, const Key& key, const Make& make) {
     if (const QImage* const known = cache.object(key)) return *known;
     QImage made = make();
-    const qsizetype bytes = qMax(made.sizeInBytes(), qsizetype{1});  // that there is nothing is worth keeping, too
-    cache.insert(key, new QImage(made), bytes);
+    // That there is nothing is worth keeping, too.
+    cache.insert(key, new QImage(made), SymbolCache::kEntryBytes + made.sizeInBytes());
     return made;
 }
 
 }  // namespace
 
 SymbolCache::SymbolCache(Draw draw, qsizetype largestBytes)
-    : m_draw(std::move(draw)), m_shapes(largestBytes), m_tinted(largestBytes) {}
+    : m_draw(std::move(draw)), m_shapes(largestBytes), m_tinted(largestBytes / 2) {}
 
 QImage SymbolCache::tinted(const QString& name, QSize pixels, const QColor& tint) {
     if (pixels.isEmpty()) return {};

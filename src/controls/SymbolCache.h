@@ -16,7 +16,9 @@ public:
     using Draw = std::function<QImage(const QString& name, QSize pixels)>;
 
     static constexpr qsizetype kLargestBytes = qsizetype{256} << 10;  // a frame of 48 points at scale 2 is 36 KiB
+    static constexpr qsizetype kEntryBytes = 400;  // what it takes to keep a picture, beside its pixels
 
+    /// So many bytes for shapes, and half as many for what is tinted, which costs less to make.
     explicit SymbolCache(Draw draw, qsizetype largestBytes = kLargestBytes);
 
     /// The shape in that one colour; null when there is none, or no room to paint it in.

@@ -7,6 +7,7 @@ namespace {
 
 class Cache : public testing::Test {
 protected:
+    static constexpr qsizetype kEntryOf16 = 16 * 16 * 4 + SymbolCache::kEntryBytes;
     int drawn = 0;
     SymbolCache cache{[this](const QString& name, QSize pixels) { return draw(name, pixels); }};
 
@@ -59,11 +60,23 @@ TEST_F(Cache, RemembersThatThereIsNoSymbol) {
 }
 
 TEST_F(Cache, ForgetsTheOldestOnceItHoldsTooMuch) {
-    SymbolCache small([this](const QString& name, QSize pixels) { return draw(name, pixels); }, 2 * 16 * 16 * 4);
+    SymbolCache small([this](const QString& name, QSize pixels) { return draw(name, pixels); }, 2 * kEntryOf16);
     for (const char* const name : {"a", "b", "c", "b", "c"}) (void)small.tinted(name, {16, 16}, Qt::red);
     EXPECT_EQ(drawn, 3);
     (void)small.tinted("a", {16, 16}, Qt::red);
     EXPECT_EQ(drawn, 4);
+}
+
+TEST_F(Cache, KeepsHalfAsManyTintsAsShapes) {
+    SymbolCache small([this](const QString& name, QSize pixels) { return draw(name, pixels); }, 4 * kEntryOf16);
+    const auto pixelsOf = [&small](const QColor& tint) { return small.tinted("plus", {16, 16}, tint).constBits(); };
+    const QImage red = small.tinted("plus", {16, 16}, Qt::red);
+    (void)pixelsOf(Qt::green);
+    EXPECT_EQ(pixelsOf(Qt::red), red.constBits());
+    (void)pixelsOf(Qt::green);
+    (void)pixelsOf(Qt::blue);
+    EXPECT_NE(pixelsOf(Qt::red), red.constBits());
+    EXPECT_EQ(drawn, 1);
 }
 
 TEST_F(Cache, PaintsWhatIsTooLargeToKeep) {
