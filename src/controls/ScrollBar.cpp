@@ -18,6 +18,7 @@ constexpr QColor kThumbHover = theme::white(36);
 
 ScrollBar::ScrollBar(QScrollBar& followed, QWidget* parent) : QScrollBar(Qt::Vertical, parent), m_followed(followed) {
     setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::NoContextMenu);  // Qt's own would come, in other words and looks than ours
     setAttribute(Qt::WA_Hover);
     setAttribute(Qt::WA_OpaquePaintEvent, false);
     connect(&followed, &QScrollBar::rangeChanged, this, &ScrollBar::follow);

@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include "app/BrandButton.h"
 #include "app/HeaderBar.h"
@@ -83,6 +84,33 @@ TEST_F(Menu, DoesNotOpenOnARightClickElsewhere) {
     askForMenu(statusLine(), QPoint(3, 3));
     EXPECT_FALSE(menu().isVisible());
 }
+
+class PageMenu : public Menu, public testing::WithParamInterface<NavTab> {};
+
+TEST_P(PageMenu, NothingOnThePageHasOneOfItsOwn) {
+    view->resize(900, 680);
+    state().currentTab.set(GetParam());
+    time.advance(Duration{0});
+    // A menu that comes runs a loop of its own; this ends it.
+    QStringList opened;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&opened] {
+        QWidget* const popup = QApplication::activePopupWidget();
+        if (!popup) return;
+        opened.append(popup->metaObject()->className());
+        popup->close();
+    });
+    look.start(0);
+    for (QWidget* const widget : view->findChildren<QWidget*>()) {
+        if (!widget->isVisible() || menu().isAncestorOf(widget)) continue;
+        if (only<HeaderBar>().isAncestorOf(widget) || widget == &only<HeaderBar>()) continue;
+        askForMenu(*widget, widget->rect().center());
+    }
+    QTest::qWait(0);
+    EXPECT_THAT(opened, testing::IsEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, PageMenu, testing::ValuesIn(kAllTabs));
 
 class WithoutMenu : public test::LinkFixture {};
 
