@@ -6,7 +6,6 @@
 #include "controls/Theme.h"
 
 namespace lumo {
-
 namespace {
 
 void paintRounded(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill, const QColor& line) {
