@@ -22,9 +22,7 @@ std::string trimmed(std::string_view name) {
 
 AssetManager::AssetManager(Bundle& bundle, FileProbe isFile) : m_bundle(bundle), m_isFile(std::move(isFile)) {}
 
-AssetManager::~AssetManager() {
-    for (const auto& [name, picture] : m_coming) picture.wait();  // they are read with what goes now
-}
+AssetManager::~AssetManager() { finishMakingAhead(); }
 
 AssetManager& AssetManager::shared() {
     SharedObjects& objects = SharedObjects::current();

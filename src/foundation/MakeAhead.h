@@ -10,26 +10,31 @@
 
 namespace lumo {
 
-/// Who makes what was asked for last. Main thread; waits at the end of the program.
+/// Who makes what was asked for last. Main thread.
 struct LastMaker {
     LastMaker() = default;
     LastMaker(const LastMaker&) = delete;
     LastMaker& operator=(const LastMaker&) = delete;
-    ~LastMaker() {
-        if (thread.joinable()) thread.join();
-    }
+    ~LastMaker() { finish(); }
     static LastMaker& shared() {
         static LastMaker maker;
         return maker;
+    }
+    void finish() {
+        if (thread.joinable()) thread.join();
     }
 
     std::thread thread;
     std::shared_future<void> isDone;  // comes before the thread is gone, which takes its time
 };
 
+/// Waits until nothing is being made any more, and the threads have gone with all that they kept. Main thread.
+inline void finishMakingAhead() { LastMaker::shared().finish(); }
+
 /// Begins once everything that was asked for before is made: several threads at work would take the processors from the
 /// main one, which the user waits for. Where no thread can be had, it is made when somebody wants the result.
-/// Main thread. Destroying the result does not wait for it.
+/// Main thread. Destroying the result does not wait for it; whoever goes with something that is read meanwhile calls
+/// finishMakingAhead().
 template <typename Make>
 [[nodiscard]] std::future<std::invoke_result_t<Make>> makeAhead(Make make) {
     LastMaker& last = LastMaker::shared();

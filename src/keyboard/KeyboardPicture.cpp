@@ -21,9 +21,7 @@ KeyboardPicture::KeyboardPicture(std::vector<KeyCap> keys, PictureSource picture
     m_touched.reserve(m_keys.size());
 }
 
-KeyboardPicture::~KeyboardPicture() {
-    if (m_ahead.valid()) m_ahead.wait();  // it reads the keys
-}
+KeyboardPicture::~KeyboardPicture() { finishMakingAhead(); }
 
 void KeyboardPicture::drawAhead(double scale) {
     m_ahead = makeAhead([&keys = m_keys, grid = DeviceGrid{scale, {}}, picture = m_picture()] {

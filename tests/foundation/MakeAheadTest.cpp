@@ -56,9 +56,13 @@ TEST(MakeAhead, AResultThatNobodyWantsIsMadeAllTheSame) {
 }
 
 TEST(MakeAhead, AResultIsThereBeforeItsThreadIsGone) {
-    static std::promise<void>& gate = *new std::promise<void>;  // the thread may outlive what goes at the end
+    static std::promise<void> gate;
+    static std::atomic<bool> isGone = false;
     struct Lingering {
-        ~Lingering() { gate.get_future().wait(); }
+        ~Lingering() {
+            gate.get_future().wait();
+            isGone = true;
+        }
     };
     auto first = makeAhead([] {
         thread_local const Lingering atTheEnd;
@@ -67,7 +71,17 @@ TEST(MakeAhead, AResultIsThereBeforeItsThreadIsGone) {
     });
     EXPECT_EQ(first.get(), 1);
     EXPECT_EQ(makeAhead([] { return 2; }).get(), 2);
+    EXPECT_FALSE(isGone);
     gate.set_value();
+    finishMakingAhead();
+    EXPECT_TRUE(isGone);
+}
+
+TEST(MakeAhead, NothingIsLeftToFinishAtFirst) {
+    finishMakingAhead();
+    EXPECT_EQ(makeAhead([] { return 1; }).get(), 1);
+    finishMakingAhead();
+    finishMakingAhead();
 }
 
 }  // namespace
