@@ -1,6 +1,8 @@
 // The per-key upload: five reports, byte for byte.
 #include <gmock/gmock.h>
 
+#include <initializer_list>
+
 #include "device/PerKeyReports.h"
 #include "support/LinkFixture.h"
 
@@ -53,14 +55,16 @@ TEST_F(PerKeyUpload, AnEmptyMapSendsTheDefaultColorInTheBanksAndZerosInThePlanes
     connect();
     upload({});
     auto first = headed({0x06, 0x09, 0xBC, 0x00, 0x01, 0x00, 0x00, 0x02});
-    for (const std::size_t offset : {3,   21,  39,  57,  75,  93,  111, 129, 147, 165, 183, 6,   24,  42,  60,  78,  96,
-                                     114, 132, 150, 168, 186, 9,   27,  45,  63,  81,  99,  117, 135, 153, 171, 189, 12,
-                                     30,  48,  66,  84,  102, 120, 138, 156, 174, 15,  33,  51,  105, 159, 177}) {
+    for (const std::size_t offset : std::initializer_list<std::size_t>{
+             3,   21,  39,  57,  75,  93,  111, 129, 147, 165, 183, 6,   24,  42,  60,  78,  96,
+             114, 132, 150, 168, 186, 9,   27,  45,  63,  81,  99,  117, 135, 153, 171, 189, 12,
+             30,  48,  66,  84,  102, 120, 138, 156, 174, 15,  33,  51,  105, 159, 177}) {
         put(first, 8 + offset, {87, 8, 212});
     }
     EXPECT_EQ(firmware.colourBank(0xBC), first);
     auto second = headed({0x06, 0x09, 0xC0, 0x00, 0x01, 0x00, 0x00, 0x02});
-    for (const std::size_t offset : {9, 27, 45, 84, 12, 30, 48, 87, 15, 51, 90, 0, 54, 72, 57, 75, 93, 3}) {
+    for (const std::size_t offset :
+         std::initializer_list<std::size_t>{9, 27, 45, 84, 12, 30, 48, 87, 15, 51, 90, 0, 54, 72, 57, 75, 93, 3}) {
         put(second, 8 + offset, {87, 8, 212});
     }
     EXPECT_EQ(firmware.colourBank(0xC0), second);

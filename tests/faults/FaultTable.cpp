@@ -17,7 +17,7 @@ std::vector<Fault> faultsOf(vk::Direction direction) {
     std::vector<Fault> faults = faultsOfEither();
     if (direction == vk::Direction::set) return faults;
     faults.push_back({"an empty answer", Disturbance::answerIsAnother, "nothing", 0});
-    for (const std::size_t length : {1, 7, 134, 135, 515, 516, 520}) {
+    for (const std::size_t length : {1U, 7U, 134U, 135U, 515U, 516U, 520U}) {
         const std::string bytes = std::to_string(length);
         faults.push_back({bytes + " bytes", Disturbance::answerIsAnother, "short " + bytes, length});
     }

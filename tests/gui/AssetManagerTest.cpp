@@ -96,7 +96,7 @@ TEST_F(Assets, APictureOnceFoundOutlivesItsFile) {
 TEST_F(Assets, APictureKeepsItsAddressWhileOthersCome) {
     paint(places[0], Qt::red);
     const QImage first = assets.image("set/a.png");
-    for (int count = 1; count <= 200; ++count) (void)assets.image("set/a.png" + std::string(count, ' '));
+    for (std::size_t count = 1; count <= 200; ++count) (void)assets.image("set/a.png" + std::string(count, ' '));
     EXPECT_EQ(assets.image("set/a.png").cacheKey(), first.cacheKey());
 }
 

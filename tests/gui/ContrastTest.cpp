@@ -69,14 +69,14 @@ protected:
         };
         expectReadable(widget, state);
         inEachControl([](PushControl& control) { setHovered(control, true); });
-        motion.advance(kAllFadesMs);
+        motion.goOn(kAllFadesMs);
         expectReadable(widget, state + ", hovered");
         inEachControl([](PushControl& control) { setPressed(control, true); });
-        motion.advance(kAllFadesMs);
+        motion.goOn(kAllFadesMs);
         expectReadable(widget, state + ", pressed");
         inEachControl([](PushControl& control) { setPressed(control, false); });
         inEachControl([](PushControl& control) { setHovered(control, false); });
-        motion.advance(kAllFadesMs);
+        motion.goOn(kAllFadesMs);
     }
 
     void expectReadableInAllStates(QWidget& widget, const std::string& page) {
@@ -85,7 +85,7 @@ protected:
             for (PushControl* const control : widget.findChildren<PushControl*>()) {
                 if (looksDifferentWhenChosen(*control)) control->setSelected(isChosen);
             }
-            motion.advance(kAllFadesMs);
+            motion.goOn(kAllFadesMs);
             expectReadableAtAnyTouch(widget, page + (isChosen ? ", chosen" : ", not chosen"));
         }
     }
@@ -93,7 +93,7 @@ protected:
     void showPage(NavTab tab) {
         state().currentTab.set(tab);
         time.advance(Duration{0});
-        motion.advance(kAllFadesMs);
+        motion.goOn(kAllFadesMs);
     }
 };
 
@@ -152,25 +152,25 @@ TEST_F(Contrast, IsEnoughWhileAMacroIsRecordedAndItsBytesAreSelected) {
     control("Recompile Bytecode").click();
     control("Record Action").click();
     time.advance(Duration{0});
-    motion.advance(kAllFadesMs);
+    motion.goOn(kAllFadesMs);
     auto& bytes = only<BytecodeView>();
     bytes.setFocus();
     QTest::keySequence(&bytes, QKeySequence::SelectAll);
     ASSERT_FALSE(bytes.selectedText().isEmpty());
     QTest::mouseMove(&only<StepList>(), {20, 10});
-    motion.advance(kAllFadesMs);
+    motion.goOn(kAllFadesMs);
     expectReadableAtAnyTouch(*view, "recording");
 }
 
 TEST_F(Contrast, IsEnoughInThePopupOfTheFirstLaunch) {
     showFirstLaunch();
-    motion.advance(kAllFadesMs);
+    motion.goOn(kAllFadesMs);
     expectReadableAtAnyTouch(welcome(), "welcome");
 }
 
 TEST_F(Contrast, IsEnoughInThePopupOfALaterLaunch) {
     showLaterLaunch();
-    motion.advance(kAllFadesMs);
+    motion.goOn(kAllFadesMs);
     expectReadableAtAnyTouch(recheck(), "recheck");
 }
 

@@ -26,7 +26,7 @@ protected:
 
     void showLaterLaunchAlone() {
         showLaterLaunch();
-        motion.advance(kLong);
+        motion.goOn(kLong);
     }
     void dismissRecheck() {
         permissions().dismissRecheckPopup();
@@ -43,23 +43,23 @@ protected:
 TEST_F(PromptFade, APopupRisesIntoItsPlaceAndIsThenAtRest) {
     showFirstLaunch();
     const int below = cardOf(welcome()).top();
-    motion.advance(kMidway);
+    motion.goOn(kMidway);
     EXPECT_LT(cardOf(welcome()).top(), below);
     EXPECT_FALSE(welcome().isResting());
-    motion.advance(kLong);
+    motion.goOn(kLong);
     EXPECT_EQ(cardOf(welcome()).top(), below - 8);
     EXPECT_TRUE(welcome().isResting());
 }
 
 TEST_F(PromptFade, APopupThatIsClosedWhileItComesGoesFromWhereItStands) {
     showLaterLaunch();
-    motion.advance(kMidway);
+    motion.goOn(kMidway);
     const QRect place = cardOf(recheck());
     dismissRecheck();
     EXPECT_EQ(cardOf(recheck()), place);
-    motion.advance(kMidway);
+    motion.goOn(kMidway);
     EXPECT_EQ(cardOf(recheck()), place);
-    motion.advance(kLong);
+    motion.goOn(kLong);
     EXPECT_FALSE(recheck().isVisible());
 }
 
@@ -67,10 +67,10 @@ TEST_F(PromptFade, APopupThatIsRaisedAgainWhileItGoesComesBackFromWhereItStands)
     showLaterLaunchAlone();
     const QRect place = cardOf(recheck());
     dismissRecheck();
-    motion.advance(kMidway);
+    motion.goOn(kMidway);
     raiseRecheck();
     EXPECT_EQ(cardOf(recheck()), place);
-    motion.advance(kLong);
+    motion.goOn(kLong);
     EXPECT_TRUE(recheck().isVisible());
     EXPECT_TRUE(recheck().isResting());
     EXPECT_EQ(cardOf(recheck()), place);
@@ -80,23 +80,23 @@ TEST_F(PromptFade, APopupThatIsRaisedAgainWhileItGoesComesBackFromWhereItStands)
 TEST_F(PromptFade, APromptGoesByAndByAlsoTheSecondTime) {
     showLaterLaunch();
     for (int i = 0; i < 2; ++i) {
-        motion.advance(kLong);
+        motion.goOn(kLong);
         const int full = colorAt(kBeside).lightness();
         permissions().dismissToast();
         dismissRecheck();
         EXPECT_TRUE(recheck().isVisible());
-        motion.advance(kMidway);
+        motion.goOn(kMidway);
         const int half = colorAt(kBeside).lightness();
         EXPECT_GT(half, full);
         EXPECT_GT(toast().share(), 0.0);
         EXPECT_LT(toast().share(), 1.0);
-        motion.advance(kLong);
+        motion.goOn(kLong);
         EXPECT_GT(colorAt(kBeside).lightness(), half);
         EXPECT_FALSE(recheck().isVisible());
         EXPECT_FALSE(toast().isVisible());
         permissions().showPermissionToast.set(true);
         raiseRecheck();
-        motion.advance(kMidway);
+        motion.goOn(kMidway);
         EXPECT_GT(toast().share(), 0.0);
         EXPECT_LT(toast().share(), 1.0);
     }
@@ -118,7 +118,7 @@ TEST_F(PromptFade, APopupOnItsWayOutStandsInNoPressesWay) {
 TEST_F(PromptFade, AToastOnItsWayOutTakesNoPress) {
     showLaterLaunchAlone();
     dismissRecheck();
-    motion.advance(kLong);
+    motion.goOn(kLong);
     const QPoint fix = rectOf(control("Fix in Settings")).center();
     EXPECT_EQ(widgetAt(fix), "Fix in Settings");
     click("Dismiss notification");
@@ -129,7 +129,7 @@ TEST_F(PromptFade, AToastOnItsWayOutTakesNoPress) {
 TEST_F(PromptFade, TheTabKeyDoesNotComeToAPopupOnItsWayOut) {
     showFirstLaunch();
     activate();
-    motion.advance(kLong);
+    motion.goOn(kLong);
     key(Qt::Key_Escape);
     EXPECT_TRUE(welcome().isVisible());
     for (int i = 0; i < 3; ++i) {
@@ -142,7 +142,7 @@ TEST_F(PromptFade, APopupThatIsShownAgainCanBeReachedAgain) {
     showLaterLaunchAlone();
     activate();
     dismissRecheck();
-    motion.advance(kLong);
+    motion.goOn(kLong);
     raiseRecheck();
     key(Qt::Key_Tab);
     EXPECT_EQ(focusedName(), "Dismiss to Settings");
@@ -152,9 +152,9 @@ TEST_F(PromptFade, AToastClosedByTheMouseLeavesNoRingAnywhere) {
     showLaterLaunchAlone();
     activate();
     dismissRecheck();
-    motion.advance(kLong);
+    motion.goOn(kLong);
     click("Dismiss notification");
-    motion.advance(kLong);
+    motion.goOn(kLong);
     EXPECT_FALSE(toast().isVisible());
     EXPECT_FALSE(only<FocusRing>().isVisible()) << focusedName().toStdString();
 }
@@ -163,11 +163,11 @@ TEST_F(PromptFade, APageThatGoesWithAPopupLeavesNoRingAnywhere) {
     showLaterLaunchAlone();
     activate();
     dismissRecheck();
-    motion.advance(kLong);
+    motion.goOn(kLong);
     click("Raindrops");
     raiseRecheck();
     click("Dismiss to Settings");
-    motion.advance(kLong);
+    motion.goOn(kLong);
     QCoreApplication::processEvents();
     EXPECT_FALSE(only<FocusRing>().isVisible()) << focusedName().toStdString();
 }
@@ -176,10 +176,10 @@ TEST_F(PromptFade, AToastClosedByTheKeyboardLeavesTheFocusInTheWindow) {
     showLaterLaunchAlone();
     activate();
     dismissRecheck();
-    motion.advance(kLong);
+    motion.goOn(kLong);
     control("Dismiss notification").setFocus(Qt::TabFocusReason);
     key(Qt::Key_Space);
-    motion.advance(kLong);
+    motion.goOn(kLong);
     QWidget* const focused = view->window()->focusWidget();
     ASSERT_NE(focused, nullptr);
     EXPECT_TRUE(focused->isVisible());
@@ -190,7 +190,7 @@ TEST_F(PromptFade, TheRecheckLiesAboveTheWelcomeAndTheFocusNeverStaysInOneThatIs
     showFirstLaunch();
     activate();
     raiseRecheck();
-    motion.advance(kLong);
+    motion.goOn(kLong);
     EXPECT_EQ(widgetAt(cardOf(recheck()).center()), "");
     EXPECT_TRUE(recheck().isAncestorOf(view->childAt(cardOf(recheck()).center())));
     EXPECT_EQ(focusedName(), "Fix in System Settings");
@@ -199,7 +199,7 @@ TEST_F(PromptFade, TheRecheckLiesAboveTheWelcomeAndTheFocusNeverStaysInOneThatIs
     EXPECT_EQ(focusedName(), "Fix in System Settings");
     dismissRecheck();
     EXPECT_FALSE(welcome().isAncestorOf(view->window()->focusWidget()));
-    motion.advance(kLong);
+    motion.goOn(kLong);
     ASSERT_NE(view->window()->focusWidget(), nullptr);
     EXPECT_TRUE(view->window()->focusWidget()->isVisible());
 }
@@ -208,18 +208,18 @@ TEST_F(PromptFade, OnlyWhatIsAllThereLetsNothingThrough) {
     showLaterLaunch();
     const QWidget& ground = recheck().findChild<PromptCard*>()->ground();
     EXPECT_FALSE(ground.testAttribute(Qt::WA_OpaquePaintEvent));
-    motion.advance(kMidway);
+    motion.goOn(kMidway);
     EXPECT_FALSE(ground.testAttribute(Qt::WA_OpaquePaintEvent));
-    motion.advance(kLong);
+    motion.goOn(kLong);
     EXPECT_TRUE(ground.testAttribute(Qt::WA_OpaquePaintEvent));
     dismissRecheck();
-    motion.advance(kMidway);
+    motion.goOn(kMidway);
     EXPECT_FALSE(ground.testAttribute(Qt::WA_OpaquePaintEvent));
 }
 
 TEST_F(PromptFade, UnderARestingPopupAnEffectPaintsNothingOfItsCard) {
     showFirstLaunch();
-    motion.advance(kLong);
+    motion.goOn(kLong);
     QCoreApplication::processEvents();
     std::vector<std::unique_ptr<test::EventCount>> paintings;
     for (QWidget* const each : welcome().findChildren<QWidget*>()) {

@@ -18,14 +18,14 @@ public:
         m_endless.setEndValue(1.0);
         m_endless.setLoopCount(-1);
         m_endless.start();
-        advance(1);
+        goOn(1);
     }
     SteppedMotion(const SteppedMotion&) = delete;
     SteppedMotion& operator=(const SteppedMotion&) = delete;
     ~SteppedMotion() override { uninstall(); }
 
     /// In the steps of a display. What was started before begins with the first of them.
-    void advance(qint64 ms) {
+    void goOn(qint64 ms) {
         constexpr qint64 kStep = 10;
         for (qint64 passed = 0; passed < ms; passed += kStep) {
             QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
