@@ -42,7 +42,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     AssetManager::shared().readAhead("keyimg.png");
     // The view comes before the window: making it brings the device link to life.
     auto view = std::make_unique<MainView>(window_system::showsMenuBar() ? nullptr : &m_quit);
-    AssetManager::shared().readAhead("colorwheel.png");  // behind the keyboard, which the view has drawn ahead
+    AssetManager::shared().readAhead("colorwheel.png");  // behind the keys, which the view has drawn ahead
     makeWindow();
     m_window->setCentralWidget(view.release());
     m_window->show();

@@ -24,9 +24,7 @@ KeyboardPicture::KeyboardPicture(std::vector<KeyCap> keys, PictureSource picture
 KeyboardPicture::~KeyboardPicture() { finishMakingAhead(); }
 
 void KeyboardPicture::drawAhead(double scale) {
-    m_ahead = makeAhead([&keys = m_keys, grid = DeviceGrid{scale, {}}, picture = m_picture()] {
-        return Drawn{GlowField(keys), std::make_unique<PictureLayers>(DrawnKeys(keys, grid), keys, picture)};
-    });
+    m_ahead = makeAhead([keys = m_keys, grid = DeviceGrid{scale, {}}] { return Ahead(keys, grid); });
 }
 
 QRect KeyboardPicture::compose(std::span<const KeyLook> looks) {
@@ -69,20 +67,22 @@ QRect KeyboardPicture::takeTouches(std::span<const KeyLook> looks) {
 }
 
 void KeyboardPicture::makeLayers(const DeviceGrid& grid) {
-    if (m_ahead.valid()) {
-        Drawn ahead = m_ahead.get();
-        m_field = std::move(ahead.field);
-        m_layers = std::move(ahead.layers);
-    }
-    if (!m_field) m_field.emplace(m_keys);
-    if (!m_layers || m_layers->grid() != grid) {
-        m_layers = std::make_unique<PictureLayers>(DrawnKeys(m_keys, grid), m_keys, m_picture());
-    }
+    m_layers = std::make_unique<PictureLayers>(drawKeys(grid), m_keys, m_picture());
     for (std::size_t key = 0; key < m_keys.size(); ++key) {
         if (m_touches[key] != KeyTouch{}) m_layers->setTouch(key, m_touches[key]);
     }
     m_field->update(m_shades);
     m_layers->composeAll(m_shades, *m_field);
+}
+
+DrawnKeys KeyboardPicture::drawKeys(const DeviceGrid& grid) {
+    if (m_ahead.valid()) {
+        Ahead ahead = m_ahead.get();
+        m_field = std::move(ahead.field);
+        if (ahead.keys.grid == grid) return std::move(ahead.keys);
+    }
+    if (!m_field) m_field.emplace(m_keys);
+    return {m_keys, grid};
 }
 
 void KeyboardPicture::paint(QPainter& painter, const QPointF& origin, const QRect& dirty) {

@@ -11,6 +11,7 @@
 
 #include "controls/PictureSource.h"
 #include "keyboard/DeviceGrid.h"
+#include "keyboard/DrawnKeys.h"
 #include "keyboard/GlowField.h"
 #include "keyboard/KeyCap.h"
 #include "keyboard/KeyLook.h"
@@ -27,14 +28,14 @@ class PictureLayers;
 class KeyboardPicture final {
 public:
     /// `picture` shows case and plate, and may show the caps, which are drawn over it; where it is null, the case is
-    /// drawn, too. It is asked for it when that is drawn.
+    /// drawn, too. It is asked for it in the first paint().
     KeyboardPicture(std::vector<KeyCap> keys, PictureSource picture);
     KeyboardPicture(const KeyboardPicture&) = delete;
     KeyboardPicture& operator=(const KeyboardPicture&) = delete;
     ~KeyboardPicture();
 
-    /// Begins to draw on another thread what a screen of `scale` pixels a point will want: in paint() it is at hand
-    /// then.
+    /// Begins to draw the keys on another thread, as a screen of `scale` pixels a point will want them: in paint() they
+    /// are at hand then.
     void drawAhead(double scale);
 
     /// One look a key, in the order of the keys. Returns what has changed, in points: everything when light did, else
@@ -46,18 +47,21 @@ public:
     void paint(QPainter& painter, const QPointF& origin, const QRect& dirty);
 
 private:
-    struct Drawn {
+    struct Ahead {
+        Ahead(const std::vector<KeyCap>& layout, const DeviceGrid& grid) : field(layout), keys(layout, grid) {}
+
         GlowField field;
-        std::unique_ptr<PictureLayers> layers;
+        DrawnKeys keys;
     };
 
     [[nodiscard]] bool takeLights(std::span<const KeyLook> looks);
     [[nodiscard]] QRect takeTouches(std::span<const KeyLook> looks);
     void makeLayers(const DeviceGrid& grid);
+    [[nodiscard]] DrawnKeys drawKeys(const DeviceGrid& grid);
 
     std::vector<KeyCap> m_keys;
     PictureSource m_picture;
-    std::future<Drawn> m_ahead;
+    std::future<Ahead> m_ahead;
     std::optional<GlowField> m_field;  // none before the first paint(), as the layers
     std::vector<KeyShade> m_shades;
     std::vector<KeyTouch> m_touches;

@@ -12,7 +12,7 @@
 
 namespace lumo {
 
-/// One thread at a time. The keys outlive it.
+/// Main thread. The keys outlive it.
 class PictureLayers final {
 public:
     /// `picture` may be null; then the case is drawn.
