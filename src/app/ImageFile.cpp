@@ -98,7 +98,7 @@ QImage premultiplied(QImage image) {
     const auto width = static_cast<std::size_t>(image.width());
     for (int y = 0; y < image.height(); ++y) {
         for (QRgb& pixel : std::span(reinterpret_cast<QRgb*>(image.scanLine(y)), width)) {
-            if (qAlpha(pixel) != 0xFF) pixel = qPremultiply(pixel);  // the most are opaque
+            if (qAlpha(pixel) != 0xFF) pixel = qPremultiply(pixel);  // most are opaque
         }
     }
     image.reinterpretAsFormat(QImage::Format_ARGB32_Premultiplied);

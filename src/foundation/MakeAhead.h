@@ -32,9 +32,10 @@ struct LastMaker {
 inline void finishMakingAhead() { LastMaker::shared().finish(); }
 
 /// Begins once everything that was asked for before is made: several threads at work would take the processors from the
-/// main one, which the user waits for. Where no thread can be had, it is made when somebody wants the result.
-/// Main thread. Destroying the result does not wait for it; whoever goes with something that is read meanwhile calls
-/// finishMakingAhead().
+/// main one, which the user waits for. Each has a thread of its own all the same, and no queue that would stay: what a
+/// thread draws letters with is much, and goes with it. Where none can be had, it is made when somebody wants the
+/// result. Main thread. Destroying the result does not wait for it; whoever goes with something that is read meanwhile
+/// calls finishMakingAhead().
 template <typename Make>
 [[nodiscard]] std::future<std::invoke_result_t<Make>> makeAhead(Make make) {
     LastMaker& last = LastMaker::shared();
