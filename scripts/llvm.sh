@@ -8,7 +8,7 @@ llvmVersion=14
 findLlvmTool() {
     local name
     for name in "$1-$llvmVersion" "$1"; do
-        if "$name" --version 2>/dev/null | grep -q "version $llvmVersion\."; then
+        if [[ $("$name" --version 2>/dev/null) == *"version $llvmVersion."* ]]; then
             printf '%s\n' "$name"
             return
         fi

@@ -28,7 +28,7 @@ startProgram() {
     programPid=$!
 }
 
-mainWindow() { xdotool search --all --onlyvisible --pid "$programPid" --name '^Vexa Lumo 65$' 2>/dev/null | head -n 1; }
+mainWindow() { xdotool search --all --onlyvisible --pid "$programPid" --name '^Vexa Lumo 65$' 2>/dev/null | sed -n 1p; }
 
 windowStands() { [ -n "$(mainWindow)" ]; }
 

@@ -76,7 +76,7 @@ iconsHaveTheirSizes() {
     local icon size
     for icon in "$root"/usr/share/icons/hicolor/*x*/apps/*.png; do
         size=${icon%/apps/*} && size=${size##*/}
-        file "$icon" | grep -q "PNG image data, ${size%x*} x ${size#*x}, " || { echo "$icon" && return 1; }
+        [[ $(file "$icon") == *"PNG image data, ${size%x*} x ${size#*x}, "* ]] || { echo "$icon" && return 1; }
     done
 }
 

@@ -47,7 +47,7 @@ needPrograms() {
     needCommand udevadm udev
     needCommand Xvfb xvfb
     needCommand xdotool xdotool
-    ldconfig -p | grep -q 'libXtst\.so\.6' || cannotRun "keys cannot be sent quickly (package libxtst6)."
+    [[ $(ldconfig -p) == *libXtst.so.6* ]] || cannotRun "keys cannot be sent quickly (package libxtst6)."
     needCommand strace strace
     needCommand dbus-daemon dbus-daemon
     needCommand at-spi-bus-launcher at-spi2-core

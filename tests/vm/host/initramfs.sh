@@ -10,7 +10,7 @@ bootModules=(virtio_ring virtio virtio_pci_modern_dev virtio_pci_legacy_dev virt
 # Debian 12 keeps modules plain; newer systems pack them, and busybox cannot load those.
 copyModule() {
     local found
-    found=$(find "$kernelTree/lib/modules/" -name "$1.ko*" | head -n 1)
+    found=$(find "$kernelTree/lib/modules/" -name "$1.ko*" -print -quit)
     case "$found" in
         *.ko) cp "$found" "$2/$1.ko" ;;
         *.ko.xz) xz -dc "$found" >"$2/$1.ko" ;;

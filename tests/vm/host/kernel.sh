@@ -9,14 +9,14 @@ kernelRelease=
 # The versioned package that the name without a version stands for; nothing when the package lists do not know it.
 kernelPackage() {
     apt-cache depends linux-image-amd64 2>/dev/null |
-        sed -n 's/^ *Depends: \(linux-image-[0-9][^ ]*\)$/\1/p' | head -n 1 || true
+        sed -n 's/^ *Depends: \(linux-image-[0-9][^ ]*\)$/\1/p' | sed -n 1p || true
 }
 
 # Also without the network a kernel unpacked earlier will do.
 newestUnpacked() {
     local stamp
     # shellcheck disable=SC2012  # names of our own making
-    stamp=$(ls -t "$work"/linux-image-*/complete 2>/dev/null | head -n 1)
+    stamp=$(ls -t "$work"/linux-image-*/complete 2>/dev/null | sed -n 1p)
     [ -z "$stamp" ] || basename "$(dirname "$stamp")"
 }
 
