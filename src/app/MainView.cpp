@@ -131,6 +131,11 @@ void MainView::showTab(NavTab tab) {
     m_toast->comeLastInTabOrder();  // the new page's controls came last
 }
 
+// It shows no focus. Qt would paint all of it anew, also when another window takes the keyboard or gives it back.
+void MainView::focusInEvent(QFocusEvent*) {}
+
+void MainView::focusOutEvent(QFocusEvent*) {}
+
 void MainView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
     if (QWindow* const handle = window()->windowHandle()) handle->startSystemMove();

@@ -12,7 +12,10 @@
 #include <string>
 #include <vector>
 
+#include "app/HeaderBar.h"
 #include "app/MainView.h"
+#include "app/StatusBar.h"
+#include "gui/EventCount.h"
 #include "support/LinkFixture.h"
 
 namespace lumo {
@@ -59,6 +62,24 @@ TEST_F(Delegate, TheWindowComesBackFromTheDockWhenTheProgramIsStartedOnceMore) {
     delegate.applicationShouldHandleReopen();
     EXPECT_FALSE(window.isMinimized());
     EXPECT_TRUE(window.isVisible());
+}
+
+TEST_F(Delegate, AFocusThatNoControlHasIsNotSeenAndPaintsNothing) {
+    platform.grants.audio = AudioAuthorization::authorized;
+    platform.grants.canListen = true;
+    platform.kept.values["VexaLumoHasLaunchedBefore"] = true;  // no popup fades in
+    const QMainWindow& window = launch();
+    test::EventCount header(*window.findChild<HeaderBar*>(), QEvent::Paint);
+    test::EventCount status(*window.findChild<StatusBar*>(), QEvent::Paint);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return header.count() > 0 && status.count() > 0; }, 30000));
+    header.forget();
+    status.forget();
+    window.centralWidget()->clearFocus();
+    window.centralWidget()->setFocus();
+    link().statusMessage.set("Whatever was to be painted before is painted with this.");
+    time.settle();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return status.count() > 0; }, 30000));
+    EXPECT_EQ(header.count(), 0);
 }
 
 TEST_F(Delegate, LaunchingBringsTheDeviceLinkToLife) {
