@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QMainWindow>
 #include <QScreen>
 #include <QStyle>
@@ -46,6 +47,9 @@ void AppDelegate::applicationDidFinishLaunching() {
     makeWindow();
     m_window->setCentralWidget(view.release());
     m_window->show();
+    // Qt wants all that is shown painted, later. Left for the event loop, that came behind the painting that the screen
+    // asks for, and everything was painted twice.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateLater);
     window_system::installMenu(*m_window, m_quit);
     window_system::activateApplication(*m_window);
 }

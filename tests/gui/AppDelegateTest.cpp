@@ -64,24 +64,6 @@ TEST_F(Delegate, TheWindowComesBackFromTheDockWhenTheProgramIsStartedOnceMore) {
     EXPECT_TRUE(window.isVisible());
 }
 
-TEST_F(Delegate, AFocusThatNoControlHasIsNotSeenAndPaintsNothing) {
-    platform.grants.audio = AudioAuthorization::authorized;
-    platform.grants.canListen = true;
-    platform.kept.values["VexaLumoHasLaunchedBefore"] = true;  // no popup fades in
-    const QMainWindow& window = launch();
-    test::EventCount header(*window.findChild<HeaderBar*>(), QEvent::Paint);
-    test::EventCount status(*window.findChild<StatusBar*>(), QEvent::Paint);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return header.count() > 0 && status.count() > 0; }, 30000));
-    header.forget();
-    status.forget();
-    window.centralWidget()->clearFocus();
-    window.centralWidget()->setFocus();
-    link().statusMessage.set("Whatever was to be painted before is painted with this.");
-    time.settle();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return status.count() > 0; }, 30000));
-    EXPECT_EQ(header.count(), 0);
-}
-
 TEST_F(Delegate, LaunchingBringsTheDeviceLinkToLife) {
     EXPECT_TRUE(platform.ioQueueLabel.empty());
     launch();
@@ -126,6 +108,47 @@ TEST(DelegateLaunch, TakesTheLinkBeforeThePermissions) {
     AppDelegate delegate;
     delegate.applicationDidFinishLaunching();
     EXPECT_EQ(noting.asked, (std::vector<std::string>{"I/O queue", "HID manager", "preferences"}));
+}
+
+class DelegatePaints : public Delegate {
+protected:
+    std::unique_ptr<test::EventCount> header;
+    std::unique_ptr<test::EventCount> status;
+
+    void SetUp() override {
+        platform.grants.audio = AudioAuthorization::authorized;
+        platform.grants.canListen = true;
+        platform.kept.values["VexaLumoHasLaunchedBefore"] = true;  // no popup fades in
+        // From the event loop, as the program does it.
+        const auto watch = [this] {
+            const QMainWindow& window = launch();
+            header = std::make_unique<test::EventCount>(*window.findChild<HeaderBar*>(), QEvent::Paint);
+            status = std::make_unique<test::EventCount>(*window.findChild<StatusBar*>(), QEvent::Paint);
+        };
+        QMetaObject::invokeMethod(qApp, watch, Qt::QueuedConnection);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return status && header->count() > 0 && status->count() > 0; }, 30000));
+    }
+
+    /// Shows a message and waits for its paint: whatever was to be painted before is painted with it.
+    void paintStatus() {
+        status->forget();
+        link().statusMessage.set("Good morning");
+        time.settle();
+        ASSERT_TRUE(QTest::qWaitFor([this] { return status->count() > 0; }, 30000));
+    }
+};
+
+TEST_F(DelegatePaints, ANewWindowIsPaintedOnce) {
+    paintStatus();
+    EXPECT_EQ(header->count(), 1);
+}
+
+TEST_F(DelegatePaints, AFocusThatNoControlHasIsNotSeenAndPaintsNothing) {
+    header->forget();
+    delegate.window()->centralWidget()->clearFocus();
+    delegate.window()->centralWidget()->setFocus();
+    paintStatus();
+    EXPECT_EQ(header->count(), 0);
 }
 
 TEST_F(Delegate, ClosingTheOnlyWindowQuitsTheApplication) {
