@@ -1,6 +1,5 @@
 #include "app/NaviPillButton.h"
 
-#include <QFontMetricsF>
 #include <QLinearGradient>
 #include <QPainter>
 #include <cmath>
@@ -34,8 +33,9 @@ QRectF centred(const QRectF& frame, double size) {
 }  // namespace
 
 NaviPillButton::NaviPillButton(NavTab tab, bool isSelected, std::function<void()> action, QWidget* parent)
-    : PushControl(plainText(labelOf(tab).title), QAccessible::PageTab, parent), m_tab(tab) {
-    setFont(theme::font(theme::kNavStyle));
+    : PushControl(plainText(labelOf(tab).title), QAccessible::PageTab, parent),
+      m_tab(tab),
+      m_lettering(theme::kNavStyle) {
     setSelected(isSelected);
     connect(this, &QAbstractButton::clicked, this, std::move(action));
 }
@@ -48,8 +48,7 @@ RingShape NaviPillButton::ringShape() const {
 double NaviPillButton::iconRoom(bool hasIcon) { return hasIcon ? kIconSize + kIconGap : 0.0; }
 
 int NaviPillButton::leastWidth(bool hasIcon) const {
-    const double title = QFontMetricsF(font()).horizontalAdvance(text());
-    return static_cast<int>(std::ceil(iconRoom(hasIcon) + title + 2.0 * kLeastPadding));
+    return static_cast<int>(std::ceil(iconRoom(hasIcon) + m_lettering.widthOf(text()) + 2.0 * kLeastPadding));
 }
 
 void NaviPillButton::setHasIcon(bool hasIcon) {
@@ -58,8 +57,7 @@ void NaviPillButton::setHasIcon(bool hasIcon) {
 }
 
 QString NaviPillButton::shownTitle() const {
-    const double room = width() - iconRoom() - 2.0 * kLeastPadding;
-    return QFontMetricsF(font()).elidedText(text(), Qt::ElideRight, room);
+    return m_lettering.elided(text(), width() - iconRoom() - 2.0 * kLeastPadding);
 }
 
 QString NaviPillButton::toolTipText() const { return shownTitle() == text() ? QString() : text(); }
@@ -68,11 +66,11 @@ void NaviPillButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintSurface(painter);
     const QString title = shownTitle();
-    const double left = (width() - iconRoom() - QFontMetricsF(font()).horizontalAdvance(title)) / 2.0;
+    const double left = (width() - iconRoom() - m_lettering.widthOf(title)) / 2.0;
     const QRectF all = rect();
     if (m_hasIcon) paintIcon(painter, QRectF(left, all.center().y() - kIconSize / 2.0, kIconSize, kIconSize));
     painter.setPen(mix(theme::kTextNav, Qt::white, selection()));
-    paintTextLine(painter, all.adjusted(left + iconRoom(), 0, 0, 0), title);
+    m_lettering.paint(painter, all.adjusted(left + iconRoom(), 0, 0, 0), title);
 }
 
 void NaviPillButton::paintSurface(QPainter& painter) const {

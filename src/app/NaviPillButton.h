@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "app/NavTab.h"
+#include "controls/Lettering.h"
 #include "controls/PushControl.h"
 
 namespace lumo {
@@ -34,6 +35,7 @@ private:
     void paintIcon(QPainter& painter, const QRectF& frame) const;
 
     NavTab m_tab;
+    Lettering m_lettering;
     bool m_hasIcon = true;
 };
 

@@ -10,10 +10,20 @@
 namespace lumo {
 namespace {
 
-// Qt's fonts come in whole pixels only: a size between two is a large font, scaled down.
-constexpr double kFractionScale = 0.1;
-
-bool isWhole(double size) { return size == std::floor(size); }
+#ifdef Q_OS_MACOS
+/// From the font's size to the style's. Qt's fonts come in whole pixels: one between two is a large one, scaled down.
+double scaleFor(double sizePx) {
+    constexpr double kFractionScale = 0.1;
+    return sizePx == std::floor(sizePx) ? 1.0 : kFractionScale;
+}
+#else
+/// From the font's size to the style's. Outlines are the same at every size, and each size is a font of its own, which
+/// takes longer to be found and opened than a page does to be lettered: all are one large font, scaled down.
+double scaleFor(double sizePx) {
+    constexpr double kFontPx = 100.0;
+    return sizePx / kFontPx;
+}
+#endif
 
 /// Letters that stand on a whole row of pixels are sharp at their feet.
 QPointF onWholePixel(const QPainter& painter, QPointF baseline) {
@@ -97,26 +107,10 @@ void drawLetters(QPainter& painter, QPointF baseline, QStringView text) {
 }
 #endif
 
-/// With the painter at the feet of the first letter, in the font's own size.
-template <typename Draw>
-void atBaseline(QPainter& painter, const QRectF& rect, const QFont& font, double scale, Draw draw) {
-    const QFontMetricsF metrics(font);
-    const double height = (metrics.ascent() + metrics.descent()) * scale;
-    const double baseline = rect.center().y() - height / 2.0 + metrics.ascent() * scale;
-    painter.save();
-    painter.setFont(font);
-    painter.translate(onWholePixel(painter, QPointF(rect.left(), baseline)));
-    painter.scale(scale, scale);
-    draw();
-    painter.restore();
-}
-
 }  // namespace
 
 Lettering::Lettering(const theme::TextStyle& style)
-    : m_scale(isWhole(style.sizePx()) ? 1.0 : kFractionScale),
-      m_isTabular(style.isTabular),
-      m_isMonospaced(style.isMonospaced) {
+    : m_scale(scaleFor(style.sizePx())), m_isTabular(style.isTabular), m_isMonospaced(style.isMonospaced) {
     m_font = theme::font(style, 1.0 / m_scale);
 }
 
@@ -139,15 +133,25 @@ QString Lettering::elided(const QString& text, double width) const {
 }
 
 void Lettering::paint(QPainter& painter, const QRectF& rect, const QString& text) const {
-    atBaseline(painter, rect, m_font, m_scale, [&] {
-        if (!m_isTabular) return drawLetters(painter, {}, set(text));
-        double x = 0.0;
-        for (const QChar letter : text) {
-            const double spare = advanceOf(letter) - textShape(QString(letter), m_font).advance;
-            drawLetters(painter, {x + spare / 2.0, 0.0}, QString(letter));
-            x += advanceOf(letter);
-        }
-    });
+    const QFontMetricsF metrics(m_font);
+    const double height = (metrics.ascent() + metrics.descent()) * m_scale;
+    const double baseline = rect.center().y() - height / 2.0 + metrics.ascent() * m_scale;
+    painter.save();
+    painter.setFont(m_font);
+    painter.translate(onWholePixel(painter, QPointF(rect.left(), baseline)));
+    painter.scale(m_scale, m_scale);
+    paintLetters(painter, text);
+    painter.restore();
+}
+
+void Lettering::paintLetters(QPainter& painter, const QString& text) const {
+    if (!m_isTabular) return drawLetters(painter, {}, set(text));
+    double x = 0.0;
+    for (const QChar letter : text) {
+        const double spare = advanceOf(letter) - textShape(QString(letter), m_font).advance;
+        drawLetters(painter, {x + spare / 2.0, 0.0}, QString(letter));
+        x += advanceOf(letter);
+    }
 }
 
 QList<QTextLayout::FormatRange> Lettering::formats(const QString& text) const { return emojiFormats(text, m_font); }
@@ -159,10 +163,6 @@ QPainterPath Lettering::outlines(const QString& text) const {
 QString typeset(const QString& text) {
     QString set = text;
     return set.replace("0x", QString("0") + kZeroWidthNonJoiner + 'x');
-}
-
-void paintTextLine(QPainter& painter, const QRectF& rect, const QString& text) {
-    atBaseline(painter, rect, painter.font(), 1.0, [&] { drawLetters(painter, {}, typeset(text)); });
 }
 
 }  // namespace lumo

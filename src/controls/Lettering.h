@@ -35,6 +35,8 @@ public:
 private:
     [[nodiscard]] double advanceOf(QChar letter) const;
     [[nodiscard]] QString set(const QString& text) const;
+    /// With the painter at the foot of the first, in the font's own size.
+    void paintLetters(QPainter& painter, const QString& text) const;
 
     QFont m_font;
     double m_scale;  // from the font's size to the style's
@@ -44,8 +46,5 @@ private:
 
 /// As the letters are set: some fonts turn the x of a hexadecimal number into a sign of multiplication.
 [[nodiscard]] QString typeset(const QString& text);
-
-/// The same in the painter's own font.
-void paintTextLine(QPainter& painter, const QRectF& rect, const QString& text);
 
 }  // namespace lumo
