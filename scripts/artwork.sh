@@ -15,8 +15,8 @@ buildProgram lumo-artwork
 tool=$(programPath lumo-artwork)
 say "Drawing"
 "$tool" "$assets"
-# Rows as they are: read quickest, and smallest where areas are even. In the wheel no two pixels are alike: its rows as what
-# differs from the pixel at the left.
+# Rows as they are: read quickest, and smallest where areas are even. In the wheel no two pixels are alike: its rows as
+# what differs from the pixel at the left.
 find "$assets" -name '*.png' ! -name colorwheel.png -exec optipng -quiet -force -nx -f0 -zc9 {} +
 optipng -quiet -force -nx -f1 -zc9 "$assets/colorwheel.png"
 note "$(find "$assets" -name '*.png' | wc -l | tr -d ' ') pictures below $assets."

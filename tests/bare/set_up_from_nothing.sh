@@ -22,7 +22,9 @@ passed=0 failed=0
 
 # The address of Debian 12 among this machine's own.
 # shellcheck disable=SC2016  # fields of apt's
-mirror() { apt-get indextargets --format '$(CODENAME) $(COMPONENT) $(REPO_URI)' | sed -n 's/^bookworm main //p' | sed -n 1p; }
+mirror() {
+    apt-get indextargets --format '$(CODENAME) $(COMPONENT) $(REPO_URI)' | sed -n 's/^bookworm main //p' | sed -n 1p
+}
 
 makeSystem() {
     local address
